@@ -1,0 +1,47 @@
+from planted import ROOT, PlantedTree
+
+
+class Summary(PlantedTree):
+    """The figures come from ctest's own report, so a real ctest makes the report here."""
+
+    def summary(self, tests, *options):
+        self.plant("CTestTestfile.cmake", tests)
+        self.start("ctest", "--test-dir", str(self.tree), "--output-junit",
+                   str(self.tree / "results.xml"))
+        return self.start(str(ROOT / "tools/checks/summary"), *options,
+                          str(self.tree / "results.xml"))
+
+    def last_line(self, result):
+        return result.stdout.splitlines()[-1]
+
+    def test_all_passed(self):
+        result = self.summary("add_test(one true)\nadd_test(two true)\n")
+        self.assert_passes(result)
+        self.assertEqual(self.last_line(result), "2 passed, 0 failed")
+
+    def test_failure_is_counted(self):
+        result = self.summary("add_test(one true)\nadd_test(two false)\n")
+        self.assert_fails(result)
+        self.assertEqual(self.last_line(result), "1 passed, 1 failed")
+
+    def test_program_that_was_not_built_is_a_failure(self):
+        result = self.summary("add_test(one true)\nadd_test(two /does/not/exist)\n")
+        self.assert_fails(result)
+        self.assertEqual(self.last_line(result), "1 passed, 1 failed")
+
+    def test_skipped_test_counts_as_neither_unless_skipping_is_forbidden(self):
+        tests = ('add_test(one true)\nadd_test(two sh -c "exit 77")\n'
+                 "set_tests_properties(two PROPERTIES SKIP_RETURN_CODE 77)\n"
+                 'add_test(three echo "[  SKIPPED ]")\n'
+                 'set_tests_properties(three PROPERTIES SKIP_REGULAR_EXPRESSION "SKIPPED")\n')
+        result = self.summary(tests)
+        self.assert_passes(result, "skipped: two\nskipped: three\n")
+        self.assertEqual(self.last_line(result), "1 passed, 0 failed")
+        self.assert_fails(self.summary(tests, "--no-skips"))
+
+    def test_no_test_at_all_is_no_success(self):
+        self.assert_fails(self.summary(""), "no test ran")
+
+    def test_missing_report_is_no_success(self):
+        self.assert_fails(self.start(str(ROOT / "tools/checks/summary"), str(self.tree / "none")),
+                          "none")
