@@ -1,0 +1,103 @@
+#pragma once
+
+#include "sim/Tick.h"
+#include "tests/support/TestBoard.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace veltrix::test {
+
+struct FakeClock : Clock {
+    float Timer() override { return now; }
+
+    float now = 0;
+};
+
+struct FakePointer : Pointer {
+    Point BoardPosition() override { return position; }
+
+    bool OverBareMainWindow() override { return overBareMainWindow; }
+
+    Point position;
+    bool overBareMainWindow = false;
+};
+
+struct FakeSoundSensor : SoundSensor {
+    std::int32_t GetVolume() override { return volume; }
+
+    std::int32_t volume = 0;
+};
+
+struct FakeSoundPlayer : SoundPlayer {
+    void Play(const std::string& name) override { played.push_back(name); }
+
+    std::vector<std::string> played;
+};
+
+struct FakeTickTimer : TickTimer {
+    void SetEnabled(bool Enabled) override { enabled = Enabled; }
+
+    void SetInterval(std::int32_t Interval) override { interval = Interval; }
+
+    bool enabled = false;
+    std::int32_t interval = 0;
+};
+
+struct FakeFollower : PointerFollower {
+    void MoveLooseEnd() override { ++moves; }
+
+    void MarkSocket() override { ++marks; }
+
+    int moves = 0;
+    int marks = 0;
+};
+
+/// A board that ticks, without a window: the test turns the clock and moves the pointer.
+struct TestSimulation : TestBoard {
+    static constexpr double secondsPerTick = 0.01;
+
+    using TestBoard::TestBoard;
+
+    void runTicks(int count) {
+        for (int i = 0; i < count; ++i) {
+            ++ticks;
+            clock.now = static_cast<float>(ticks * secondsPerTick);
+            tick.Timer1_Timer();
+        }
+    }
+
+    /// Whether `condition` held before or after one of at most `maxTicks` ticks.
+    template <typename Condition>
+    [[nodiscard]] bool runUntil(Condition condition, int maxTicks) {
+        for (int i = 0; i < maxTicks && !condition(); ++i)
+            runTicks(1);
+        return condition();
+    }
+
+    /// The level of a socket after the last tick, 0 where the run did not come.
+    [[nodiscard]] std::int32_t levelOf(const std::string& naam) const {
+        return graph.GetPuntValueByName(naam, 0);
+    }
+
+    FakeClock clock;
+    FakePointer pointer;
+    FakeSoundSensor sound;
+    FakeSoundPlayer player;
+    FakeTickTimer timer;
+    FakeFollower follower;
+    clsGraph graph = evaluatorOf(board);
+    Tick tick{{surface, board, graph, clock, pointer, sound, player, timer, follower}};
+    int ticks = 0;
+
+private:
+    static clsGraph evaluatorOf(Board& board) {
+        clsGraph graph;
+        graph.Constructor(board.Display);
+        return graph;
+    }
+};
+
+} // namespace veltrix::test
