@@ -11,11 +11,11 @@ run the script and look at a board full of wires at every scale.
 
 What makes beads join into one cable:
 - along the wire a bead is the same everywhere, so an overlap shows nothing;
-- it is opaque over more than the largest gap between beads and then fades out
-  slowly, so that a bead whose direction is a few degrees off blends into the
-  next one instead of making a step;
-- the outline narrows a little towards the ends, which keeps the corners of
-  such a bead inside the cable;
+- a bead whose direction is a few degrees off runs from one side of the wire to
+  the other. It fades in over about the distance between beads, so that what
+  is seen is the mean of it and its neighbour, which stays in the middle;
+- the outline is an ellipse: its ends stay inside the cable when the bead is
+  turned, and make a point that goes into the socket;
 - the outline belongs to the mask, is the same for all looks, and lies well
   inside the casing colour, which fills the frame: no foreign colour can show
   at the soft edge.
@@ -29,9 +29,9 @@ DIRECTIONS = 32
 FOLDER = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "images1")
 
 HALF_WIDTH = 3.7   # of the cable, casing included
-TAPER = 0.045      # narrowing per pixel away from the middle of a bead
-OPAQUE = 6.5       # half the length that covers fully: steps reach 15 on wires of any length
-FADED = 11.5       # half the length over which anything shows
+OPAQUE = 5.5       # half the length that covers fully; beads are mostly 10 to 12 apart
+LENGTH = 13.5      # half the length over which anything shows
+SOFT = 0.35        # blur: beads sit on whole pixels, and a soft edge hides the half pixel missed
 
 CASING = "#14161b"
 LIGHT = (-0.6, -0.8)  # towards the light, as on the rest of the board
@@ -40,8 +40,8 @@ LIGHT = (-0.6, -0.8)  # towards the light, as on the rest of the board
 LOOKS = {
     8: ("#3d4250", 0.80, "#4d5363", 0.20),
     7: ("#54467f", 1.05, "#6b5c98", 0.25),
-    6: ("#883f8c", 1.30, "#a25ca5", 0.30),
-    5: ("#c0416f", 1.55, "#d76a90", 0.35),
+    6: ("#924a9b", 1.30, "#ac68b4", 0.30),
+    5: ("#c94b78", 1.55, "#de7599", 0.35),
     4: ("#e8603a", 1.80, "#f58a69", 0.40),
     3: ("#f98b1d", 2.05, "#ffb061", 0.45),
     2: ("#fdb91e", 2.30, "#ffd975", 0.50),
@@ -65,6 +65,7 @@ def strip(title, definitions, paint):
         f"  <title>{title}</title>",
         "  <!-- Drawn by tools/pictures/draw_wires.py: edit the table there. -->",
         "  <defs>",
+        f'    <filter id="soft"><feGaussianBlur stdDeviation="{SOFT}"/></filter>',
         *("    " + line for line in definitions),
         "  </defs>",
     ]
@@ -72,7 +73,7 @@ def strip(title, definitions, paint):
         lines.append(
             f'  <svg x="{FRAME * direction}" width="{FRAME}" height="{FRAME}"'
             f' viewBox="-16 -16 {FRAME} {FRAME}">'
-            f'<g transform="rotate({number(angle(direction))})">{paint(direction)}</g></svg>'
+            f'<g filter="url(#soft)" transform="rotate({number(angle(direction))})">{paint(direction)}</g></svg>'
         )
     lines.append("</svg>")
     return "\n".join(lines) + "\n"
@@ -115,44 +116,31 @@ def draw_levels():
 
 def draw_removal():
     definitions = [
-        '<g id="cable"><rect x="-24" y="-24" width="48" height="48" fill="#a3003f"/>'
-        + band(2.7, "#ffffff")
-        + '<path d="M-2.3 -2.3L2.3 2.3M-2.3 2.3L2.3 -2.3" stroke="#16181c"'
-        ' stroke-width="1.5" fill="none"/></g>'
+        f'<g id="cable"><rect x="-24" y="-24" width="48" height="48" fill="{CASING}"/>'
+        + band(2.5, "#ffffff")
+        + '<path d="M-4.8 -2.3L-.2 2.3M-4.8 2.3L-.2 -2.3" stroke="#d9003c"'
+        ' stroke-width="1.8" fill="none"/></g>'
     ]
     save("Line9.svg", strip("Wire look 9: to be removed", definitions, lambda n: '<use href="#cable"/>'))
 
 
 def draw_mask():
-    stops = []
-    steps = 8
-    for side in (-1, 1):
-        for step in range(steps + 1):
-            part = step / steps
-            place = OPAQUE + (FADED - OPAQUE) * part
-            cover = 1 - part * part * (3 - 2 * part)
-            stops.append((0.5 + side * place / (2 * FADED), cover))
-    stops.sort()
     gradient = (
-        f'<linearGradient id="fade" gradientUnits="userSpaceOnUse" x1="{-FADED}" x2="{FADED}"'
+        f'<linearGradient id="fade" gradientUnits="userSpaceOnUse" x1="{-LENGTH}" x2="{LENGTH}"'
         ' y1="0" y2="0">'
         + "".join(
-            f'<stop offset="{number(place)}" stop-color="#fff" stop-opacity="{number(cover)}"/>'
-            for place, cover in stops
+            f'<stop offset="{number(0.5 + place / (2 * LENGTH))}" stop-color="#fff"'
+            f' stop-opacity="{cover}"/>'
+            for place, cover in ((-LENGTH, 0), (-OPAQUE, 1), (OPAQUE, 1), (LENGTH, 0))
         )
         + "</linearGradient>"
     )
-    end = number(HALF_WIDTH - TAPER * FADED)
-    middle = number(HALF_WIDTH)
-    outline = (
-        f'<path id="bead" fill="url(#fade)" d="M{-FADED} -{end}L0 -{middle}L{FADED} -{end}'
-        f'V{end}L0 {middle}L{-FADED} {end}Z"/>'
-    )
+    bead = f'<ellipse id="bead" rx="{LENGTH}" ry="{HALF_WIDTH}" fill="url(#fade)"/>'
     save(
         "LineMask.svg",
         strip(
             "Mask of all wire looks",
-            [gradient, outline],
+            [gradient, bead],
             lambda n: '<rect x="-24" y="-24" width="48" height="48"/><use href="#bead"/>',
         ),
     )
