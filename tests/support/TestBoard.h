@@ -1,28 +1,15 @@
 #pragma once
 
-#include "board/Log.h"
 #include "board/PictorATL.h"
 #include "instruments/Board.h"
+#include "tests/support/Logs.h"
 
 #include <filesystem>
 #include <memory>
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 namespace veltrix::test {
-
-class NullLog : public Log {
-public:
-    void Write(const std::string& /*line*/) noexcept override {}
-};
-
-class KeptLog : public Log {
-public:
-    void Write(const std::string& line) noexcept override { Lines.push_back(line); }
-
-    std::vector<std::string> Lines;
-};
 
 /// A surface that has been started, with a board on it. Without a folder no picture is found: the
 /// board works as it does with pictures, but nothing is seen, and the knob, whose scale is as large
