@@ -29,11 +29,12 @@ DIRECTIONS = 32
 FOLDER = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "images1")
 
 HALF_WIDTH = 3.7   # of the cable, casing included
-OPAQUE = 5.5       # half the length that covers fully; beads are mostly 10 to 12 apart
+OPAQUE = 6.5       # half the length that covers fully; beads are mostly 10 to 12 apart
 LENGTH = 13.5      # half the length over which anything shows
 SOFT = 0.35        # blur: beads sit on whole pixels, and a soft edge hides the half pixel missed
 
 CASING = "#14161b"
+SHEATH = f'<rect x="-24" y="-24" width="48" height="48" fill="{CASING}"/>'
 LIGHT = (-0.6, -0.8)  # towards the light, as on the rest of the board
 
 # look: core colour, half the core's width, colour and half width of the highlight
@@ -58,16 +59,17 @@ def number(value):
     return f"{value:.3f}".rstrip("0").rstrip(".")
 
 
-def strip(title, definitions, paint):
+def strip(title, ground, definitions, paint):
     lines = [
         f'<svg xmlns="http://www.w3.org/2000/svg" width="{FRAME * DIRECTIONS}" height="{FRAME}"'
         f' viewBox="0 0 {FRAME * DIRECTIONS} {FRAME}">',
         f"  <title>{title}</title>",
         "  <!-- Drawn by tools/pictures/draw_wires.py: edit the table there. -->",
         "  <defs>",
-        f'    <filter id="soft"><feGaussianBlur stdDeviation="{SOFT}"/></filter>',
+        f'    <filter id="soft" color-interpolation-filters="sRGB"><feGaussianBlur stdDeviation="{SOFT}"/></filter>',
         *("    " + line for line in definitions),
         "  </defs>",
+        f'  <rect width="{FRAME * DIRECTIONS}" height="{FRAME}" fill="{ground}"/>',
     ]
     for direction in range(DIRECTIONS):
         lines.append(
@@ -99,14 +101,12 @@ def lit_side(direction):
 
 def draw_levels():
     for look, (core, half, shine, shine_half) in LOOKS.items():
-        definitions = [
-            f'<g id="cable"><rect x="-24" y="-24" width="48" height="48" fill="{CASING}"/>'
-            + band(half, core) + "</g>"
-        ]
+        definitions = [f'<g id="cable">{SHEATH}{band(half, core)}</g>']
         save(
             f"Line{look}.svg",
             strip(
                 f"Wire look {look}",
+                CASING,
                 definitions,
                 lambda n: '<use href="#cable"/>'
                 + band(shine_half, shine, 0.45 * half * lit_side(n)),
@@ -116,12 +116,15 @@ def draw_levels():
 
 def draw_removal():
     definitions = [
-        f'<g id="cable"><rect x="-24" y="-24" width="48" height="48" fill="{CASING}"/>'
+        f'<g id="cable">{SHEATH}'
         + band(2.5, "#ffffff")
         + '<path d="M-4.8 -2.3L-.2 2.3M-4.8 2.3L-.2 -2.3" stroke="#d9003c"'
         ' stroke-width="1.8" fill="none"/></g>'
     ]
-    save("Line9.svg", strip("Wire look 9: to be removed", definitions, lambda n: '<use href="#cable"/>'))
+    save(
+        "Line9.svg",
+        strip("Wire look 9: to be removed", CASING, definitions, lambda n: '<use href="#cable"/>'),
+    )
 
 
 def draw_mask():
@@ -140,8 +143,9 @@ def draw_mask():
         "LineMask.svg",
         strip(
             "Mask of all wire looks",
+            "#000",
             [gradient, bead],
-            lambda n: '<rect x="-24" y="-24" width="48" height="48"/><use href="#bead"/>',
+            lambda n: '<use href="#bead"/>',
         ),
     )
 
