@@ -1,0 +1,57 @@
+#pragma once
+
+#include "document/ChunkStack.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace veltrix {
+
+/// Writes chunks to a file. They reach the file when it is closed. Every write throws
+/// std::system_error when no file is open.
+class clsKorvelWFile {
+public:
+    clsKorvelWFile() = default;
+    clsKorvelWFile(const clsKorvelWFile&) = delete;
+    clsKorvelWFile& operator=(const clsKorvelWFile&) = delete;
+
+    /// Closes the file. What can no longer be reported is lost: close a file that matters oneself.
+    ~clsKorvelWFile();
+
+    /// Opens a file (UTF-8 path) at its start, after closing the one that is open. A file that is
+    /// not there is made; one that is there keeps what lies past the end of what is written now.
+    /// Throws std::system_error, with no file open, when it cannot be written.
+    void OpenFile(const std::string& fname);
+
+    /// Does nothing when no file is open. Throws std::system_error when the file cannot be written.
+    void CloseFile();
+
+    /// Throws std::out_of_range when 100 chunks are open, after the type was written.
+    void BeginChunk(std::int16_t i);
+
+    /// Throws std::out_of_range when more chunks were ended than begun. One too many overwrites the
+    /// start of the stream.
+    void EndChunk();
+
+    /// Writes UTF-8 text; the result is always empty. Throws std::overflow_error at a character
+    /// that is not in code page 1252.
+    std::string writeString(std::string_view s);
+    void writeInt(std::int16_t i);
+    void writeLong(std::int32_t l);
+    void writeBool(bool b);
+    void writeSingle(float s);
+
+private:
+    template <typename Bytes>
+    void put(const Bytes& bytes);
+    void putByte(std::uint8_t byte);
+
+    std::optional<std::string> path_; // none when no file is open
+    std::string written_;
+    ChunkStack chunks_;
+    std::int32_t position_ = 0; // in what was written
+};
+
+} // namespace veltrix
