@@ -17,6 +17,7 @@
 #include <cstdio>
 #include <fstream>
 #include <iterator>
+#include <optional>
 #include <span>
 #include <stdexcept>
 #include <string>
@@ -42,7 +43,6 @@ struct Picture {
 
     bool contains(int x, int y) const { return x >= 0 && y >= 0 && x < width && y < height; }
 
-private:
     std::size_t index(int x, int y) const {
         return static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
                static_cast<std::size_t>(x);
@@ -94,6 +94,30 @@ Picture alphaOf(const Picture& picture) {
 // Hardly visible pixels carry too few bits of colour to be believed.
 constexpr std::uint8_t kBelievable = 16;
 
+std::optional<Pixel> meanOfNeighbours(const Picture& picture, const std::vector<bool>& known, int x,
+                                      int y) {
+    int red = 0;
+    int green = 0;
+    int blue = 0;
+    int count = 0;
+    for (int v = y - 1; v <= y + 1; ++v) {
+        for (int u = x - 1; u <= x + 1; ++u) {
+            if (picture.contains(u, v) && known[picture.index(u, v)]) {
+                const Pixel& p = picture.at(u, v);
+                red += p.red;
+                green += p.green;
+                blue += p.blue;
+                ++count;
+            }
+        }
+    }
+    if (count == 0) {
+        return std::nullopt;
+    }
+    return Pixel{static_cast<std::uint8_t>(red / count), static_cast<std::uint8_t>(green / count),
+                 static_cast<std::uint8_t>(blue / count), picture.at(x, y).alpha};
+}
+
 // The colour beside a picture's edge takes part in resampling, although the mask hides it. It is
 // therefore continued outward from the nearest believable colour, ring by ring.
 void bleedColourOutward(Picture& picture) {
@@ -108,33 +132,12 @@ void bleedColourOutward(Picture& picture) {
         const std::vector<bool> before = known;
         for (int y = 0; y < picture.height; ++y) {
             for (int x = 0; x < picture.width; ++x) {
-                const auto here = static_cast<std::size_t>(y * picture.width + x);
-                if (before[here]) {
+                if (before[picture.index(x, y)]) {
                     continue;
                 }
-                int red = 0;
-                int green = 0;
-                int blue = 0;
-                int count = 0;
-                for (int dy = -1; dy <= 1; ++dy) {
-                    for (int dx = -1; dx <= 1; ++dx) {
-                        const auto there =
-                            static_cast<std::size_t>((y + dy) * picture.width + x + dx);
-                        if (picture.contains(x + dx, y + dy) && before[there]) {
-                            const Pixel& p = picture.at(x + dx, y + dy);
-                            red += p.red;
-                            green += p.green;
-                            blue += p.blue;
-                            ++count;
-                        }
-                    }
-                }
-                if (count > 0) {
-                    Pixel& p = picture.at(x, y);
-                    p.red = static_cast<std::uint8_t>(red / count);
-                    p.green = static_cast<std::uint8_t>(green / count);
-                    p.blue = static_cast<std::uint8_t>(blue / count);
-                    known[here] = true;
+                if (const auto colour = meanOfNeighbours(picture, before, x, y)) {
+                    picture.at(x, y) = *colour;
+                    known[picture.index(x, y)] = true;
                     grew = true;
                 }
             }
