@@ -119,9 +119,13 @@ void BitmapStore::load(Bitmap& bitmap) {
     for (const int pixels : byPreference(scale_)) {
         try {
             const Picture full = ReadPicture(AppPath(folder_, rendition(bitmap.name, pixels)));
+            const std::int32_t frames =
+                full.width % full.height == 0 ? full.width / full.height : 1;
+            if (full.width / pixels < frames || full.height < pixels)
+                throw std::runtime_error("is smaller than a pixel of the board");
             bitmap.width = full.width / pixels;
             bitmap.height = full.height / pixels;
-            bitmap.frames = full.width % full.height == 0 ? full.width / full.height : 1;
+            bitmap.frames = frames;
             bitmap.picture = std::make_shared<Picture>(ResampleFrames(
                 full, bitmap.frames, scaled(bitmap.width / bitmap.frames, scale_, bitmap.frames),
                 scaled(bitmap.height, scale_, bitmap.frames)));
