@@ -31,14 +31,15 @@ std::int32_t CheckedMultiply(std::int32_t a, std::int32_t b) {
 
 std::int32_t RoundToLong(double value) {
     // Not std::nearbyint: its rounding depends on a mode that a library may have changed.
-    const double below = std::floor(value);
-    const double fraction = value - below;
-    const bool up = fraction > 0.5 || (fraction == 0.5 && std::fmod(below, 2.0) != 0.0);
-    const double rounded = up ? below + 1.0 : below;
-    if (!(rounded >= std::numeric_limits<std::int32_t>::min() &&
-          rounded <= std::numeric_limits<std::int32_t>::max()))
+    constexpr double least = std::numeric_limits<std::int32_t>::min();
+    constexpr double most = std::numeric_limits<std::int32_t>::max();
+    if (!(value >= least - 0.5 && value < most + 0.5))
         throw std::overflow_error("a number left the 32-bit range when it was rounded");
-    return static_cast<std::int32_t>(rounded);
+    const auto towardsZero = static_cast<std::int64_t>(value);
+    const double rest = std::abs(value - static_cast<double>(towardsZero));
+    const bool further = rest > 0.5 || (rest == 0.5 && towardsZero % 2 != 0);
+    const std::int64_t away = value < 0 ? -1 : 1;
+    return static_cast<std::int32_t>(further ? towardsZero + away : towardsZero);
 }
 
 } // namespace veltrix

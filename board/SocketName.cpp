@@ -79,12 +79,6 @@ SocketName::SocketName(const SocketName& other) noexcept : id_(other.id_) {
 
 SocketName::SocketName(SocketName&& other) noexcept : id_(std::exchange(other.id_, 0)) {}
 
-SocketName& SocketName::operator=(const SocketName& other) noexcept {
-    share(other.id_);
-    release(std::exchange(id_, other.id_));
-    return *this;
-}
-
 SocketName& SocketName::operator=(SocketName&& other) noexcept {
     std::swap(id_, other.id_);
     return *this;
@@ -92,6 +86,11 @@ SocketName& SocketName::operator=(SocketName&& other) noexcept {
 
 SocketName::~SocketName() {
     release(id_);
+}
+
+void SocketName::change(std::uint32_t id) noexcept {
+    share(id);
+    release(std::exchange(id_, id));
 }
 
 const std::string& SocketName::Text() const noexcept {

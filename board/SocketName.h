@@ -23,7 +23,14 @@ public:
 
     SocketName(const SocketName& other) noexcept;
     SocketName(SocketName&& other) noexcept;
-    SocketName& operator=(const SocketName& other) noexcept;
+
+    SocketName& operator=(const SocketName& other) noexcept {
+        // The evaluator writes the same names over one another in every tick.
+        if (id_ != other.id_)
+            change(other.id_);
+        return *this;
+    }
+
     SocketName& operator=(SocketName&& other) noexcept;
     ~SocketName();
 
@@ -52,6 +59,8 @@ public:
     friend bool operator==(const SocketName& a, const char* b) noexcept { return a.Text() == b; }
 
 private:
+    void change(std::uint32_t id) noexcept;
+
     std::uint32_t id_ = 0;
 };
 

@@ -6,7 +6,10 @@ namespace veltrix {
 
 /// The names that the simulation itself speaks of, looked up once.
 struct Sockets {
-    static const Sockets& Get();
+    static const Sockets& Get() {
+        static const Sockets names;
+        return names;
+    }
 
     SocketName Sensor1Uit = "Sensor 1 Uit Geel";
     SocketName Sensor2Uit = "Sensor 2 Uit Geel";

@@ -41,7 +41,8 @@ void clsGraph::AddPunt(const SocketName& naam, std::int32_t Value) {
     if (index >= punten_.size())
         throw std::out_of_range("the evaluator knows at most 100 levels");
     Note& note = noteOf(naam);
-    punten_[index] = {naam, Value};
+    // Held, so that the number of the name, where the note stands, means no other name meanwhile.
+    punten_[index] = naam;
     ++count_;
     if (note.knownIn == table_)
         return;

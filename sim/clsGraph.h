@@ -52,11 +52,6 @@ public:
 private:
     using Levels = std::initializer_list<std::int32_t>;
 
-    struct Punt {
-        SocketName naam;
-        std::int32_t value = 0;
-    };
-
     /// What is known of a name, at the place of its number, so that a look-up need not search. A
     /// note is valid while its stamp is that of the current table or run.
     struct Note {
@@ -88,7 +83,9 @@ private:
 
     static std::int32_t MinOf(Levels values) noexcept;
 
-    std::array<Punt, 101> punten_; // position 0 stays empty: levels are counted from 1
+    // The names in the table; their levels stand in the notes. Position 0 stays empty: levels are
+    // counted from 1.
+    std::array<SocketName, 101> punten_;
     std::int32_t count_ = 0;
     std::int32_t memoryLevel_ = 0;
     std::int32_t comparatorValue_ = 0;
