@@ -4,6 +4,7 @@
 #include "board/clsLine.h"
 
 #include <cmath>
+#include <stdexcept>
 #include <string>
 
 namespace veltrix {
@@ -61,6 +62,13 @@ std::shared_ptr<clsLine> clsBordLines::CreateLine() {
     return line;
 }
 
+std::size_t clsBordLines::pictureOf(std::int32_t ColorNr) const {
+    const auto color = static_cast<std::size_t>(ColorNr);
+    if (color >= bitmaps_.size())
+        throw std::out_of_range("a wire cannot have the colour number " + std::to_string(ColorNr));
+    return color;
+}
+
 void clsBordLines::DrawLine(std::int32_t GroupLID, std::int32_t X1, std::int32_t Y1,
                             std::int32_t X2, std::int32_t Y2, std::int32_t ColorNr) {
     if (X1 == X2 && Y1 == Y2)
@@ -71,8 +79,8 @@ void clsBordLines::DrawLine(std::int32_t GroupLID, std::int32_t X1, std::int32_t
     const std::int32_t direction = nearestDirection(dx / length, dy / length);
     const double beads = std::trunc(length / beadSpacing);
     for (double k = 0.5; k <= beads; ++k) {
-        const auto color = static_cast<std::size_t>(ColorNr);
-        const std::int32_t bead = mag_->CreateMaskedSprite(bitmaps_.at(color), masks_.at(color));
+        const std::size_t color = pictureOf(ColorNr);
+        const std::int32_t bead = mag_->CreateMaskedSprite(bitmaps_[color], masks_[color]);
         const double t = k / beads;
         mag_->PlaceSprite(bead, RoundToLong(t * dx + X1 - beadSize / 2),
                           RoundToLong(t * dy + Y1 - beadSize / 2));

@@ -3,6 +3,7 @@
 #include "board/PictorATL.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 
@@ -32,6 +33,8 @@ public:
                   std::int32_t Y2, std::int32_t ColorNr);
 
 private:
+    [[nodiscard]] std::size_t pictureOf(std::int32_t ColorNr) const;
+
     PictorATL* mag_ = nullptr;
     std::array<std::int32_t, 10> bitmaps_{}; // by colour number; 0 is no colour
     std::array<std::int32_t, 10> masks_{};

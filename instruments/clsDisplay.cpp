@@ -2,6 +2,7 @@
 
 #include "board/PictorATL.h"
 
+#include <stdexcept>
 #include <string>
 
 namespace veltrix {
@@ -25,7 +26,10 @@ void clsDisplay::SetValue(std::int32_t Value) {
         mag_->DeleteSprite(sprite_);
         sprite_ = 0;
     }
-    sprite_ = mag_->CreateSprite(bitmaps_.at(static_cast<std::size_t>(Value)));
+    const auto digit = static_cast<std::size_t>(Value);
+    if (digit >= bitmaps_.size())
+        throw std::out_of_range("the display shows 0 to 9, not " + std::to_string(Value));
+    sprite_ = mag_->CreateSprite(bitmaps_[digit]);
     mag_->PlaceSprite(sprite_, digitX, digitY);
     value_ = Value;
 }
