@@ -1,0 +1,147 @@
+// Writes the two sounds of the buzzer. Runs at build time only.
+//
+//   make_sounds RINGIN.wav SILENCE.wav
+//
+// Both are 16-bit mono files that are played over and over, so each must begin as it ends.
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <exception>
+#include <fstream>
+#include <numbers>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+constexpr std::uint32_t sampleRate = 44100;
+
+/// The samples of one turn of a loop, full scale at 1.
+using Loop = std::vector<double>;
+
+Loop silence(double seconds) {
+    return Loop(static_cast<std::size_t>(seconds * sampleRate));
+}
+
+/// One tone of a bell's sound.
+struct Partial {
+    double ratio;  ///< its frequency, as a multiple of the bell's note
+    double weight; ///< how loud it begins
+    double decay;  ///< seconds until it has faded to a third
+};
+
+// The low tones carry the note and stay, the high ones give the stroke and fade at once. All of
+// them lie where the small loudspeaker of a school computer still sounds, 0.6 to 7 kHz.
+constexpr std::array<Partial, 5> bell{{
+    {1.0, 1.0, 0.26},
+    {2.0, 0.45, 0.20},
+    {2.76, 0.30, 0.12},
+    {4.07, 0.12, 0.07},
+    {5.43, 0.08, 0.04},
+}};
+
+/// Lets a bell strike. What is still sounding at the end of the loop goes on at its beginning, so
+/// that there is no seam to be heard.
+void strike(Loop& loop, double atSeconds, double note) {
+    constexpr double attack = 0.004; // seconds; a tone that is there at once makes a click
+    constexpr double tail = 2.5;     // seconds, after which nothing is left of the slowest partial
+    const auto start = static_cast<std::size_t>(atSeconds * sampleRate);
+    const auto length = static_cast<std::size_t>(tail * sampleRate);
+    for (std::size_t i = 0; i < length; ++i) {
+        const double t = static_cast<double>(i) / sampleRate;
+        const double rise = t < attack ? 0.5 - 0.5 * std::cos(std::numbers::pi * t / attack) : 1.0;
+        double sum = 0;
+        for (const Partial& partial : bell)
+            sum += partial.weight * std::exp(-t / partial.decay) *
+                   std::sin(2 * std::numbers::pi * note * partial.ratio * t);
+        loop[(start + i) % loop.size()] += rise * sum;
+    }
+}
+
+/// A door bell that keeps ringing: two notes a third apart, four strokes a turn.
+Loop ringing() {
+    constexpr double high = 1318.5; // Hz, E6
+    constexpr double low = 1046.5;  // Hz, C6
+    constexpr double stroke = 0.4;  // seconds between two strokes
+    Loop loop = silence(4 * stroke);
+    strike(loop, 0, high);
+    strike(loop, stroke, low);
+    strike(loop, 2 * stroke, high);
+    strike(loop, 3 * stroke, low);
+    return loop;
+}
+
+/// Makes the loudest sample of a loop as loud as `peak`.
+void setPeak(Loop& loop, double peak) {
+    double loudest = 0;
+    for (const double sample : loop)
+        loudest = std::max(loudest, std::abs(sample));
+    for (double& sample : loop)
+        sample *= peak / loudest;
+}
+
+class WaveFile {
+public:
+    explicit WaveFile(const Loop& loop) {
+        constexpr std::uint32_t bytesPerSample = 2;
+        const auto bytes = static_cast<std::uint32_t>(loop.size()) * bytesPerSample;
+        text("RIFF");
+        number(36 + bytes, 4);
+        text("WAVE");
+        text("fmt ");
+        number(16, 4);                          // length of this chunk
+        number(1, 2);                           // PCM
+        number(1, 2);                           // channels
+        number(sampleRate, 4);                  // frames a second
+        number(sampleRate * bytesPerSample, 4); // bytes a second
+        number(bytesPerSample, 2);              // bytes a frame
+        number(8 * bytesPerSample, 2);          // bits a sample
+        text("data");
+        number(bytes, 4);
+        for (const double sample : loop)
+            number(static_cast<std::uint32_t>(std::lround(sample * 32767)), bytesPerSample);
+    }
+
+    void Write(const std::string& path) const {
+        std::ofstream file(path, std::ios::binary);
+        file.write(bytes_.data(), static_cast<std::streamsize>(bytes_.size()));
+        file.close();
+        if (!file)
+            throw std::runtime_error(path + ": cannot be written");
+    }
+
+private:
+    void text(std::string_view text) { bytes_ += text; }
+
+    void number(std::uint32_t value, std::uint32_t bytes) {
+        for (std::uint32_t i = 0; i < bytes; ++i)
+            bytes_ += static_cast<char>(static_cast<unsigned char>(value >> (8 * i) & 0xFF));
+    }
+
+    std::string bytes_;
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 3) {
+        std::fputs("usage: make_sounds RINGIN.wav SILENCE.wav\n", stderr);
+        return 2;
+    }
+    try {
+        Loop bellLoop = ringing();
+        setPeak(bellLoop, 0.5); // headphones are worn in computer rooms
+        WaveFile(bellLoop).Write(argv[1]);
+        WaveFile(silence(0.5)).Write(argv[2]);
+        return 0;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "make_sounds: %s\n", error.what());
+        return 1;
+    }
+}
