@@ -1,0 +1,69 @@
+#pragma once
+
+#include "board/Collection.h"
+#include "document/Dialogs.h"
+#include "document/FileCommands.h"
+#include "document/clsKorvelRWRam.h"
+#include "instruments/Board.h"
+
+#include <cstdint>
+#include <memory>
+
+namespace veltrix {
+
+/// The two menu items that the undo list enables and disables.
+class UndoMenu {
+public:
+    virtual ~UndoMenu() = default;
+    virtual void SetUndoEnabled(bool Enabled) = 0;
+    virtual void SetRedoEnabled(bool Enabled) = 0;
+};
+
+/// The wire whose first end is placed and whose second end follows the pointer; none between wires.
+struct LooseWire {
+    std::shared_ptr<clsLine> Line;
+};
+
+/// Snapshots of the whole board, one for each edit, and a pointer to the one that the board shows.
+/// Once the first snapshot exists the pointer is 1 to the number of snapshots; undo is enabled from
+/// 2 on, redo while there are snapshots behind the pointer.
+class UndoList : public History {
+public:
+    /// All of it must outlive the list.
+    UndoList(Board& board, LooseWire& looseWire, UndoMenu& menu, MessageBox& messages) noexcept
+        : board_(board), looseWire_(looseWire), menu_(menu), messages_(messages) {}
+
+    /// Drops the steps that were undone and records the board as it is now. Throws
+    /// std::out_of_range when the board does not fit in a snapshot; the undone steps are gone then.
+    void Undo_AddThisState();
+
+    /// Takes the board back one snapshot, or forward one; shows a message when there is none.
+    void mnuUndo_Click();
+    void mnuRedo_Click();
+
+    /// Drops the snapshot that was just recorded and takes the board back to the one before it.
+    void Undo_RemoveLastState();
+
+    [[nodiscard]] std::int32_t Count() const noexcept { return snapshots_.Count(); }
+
+    [[nodiscard]] std::int32_t Position() const noexcept { return pointer_; }
+
+    void Reset() override;
+
+    void AddThisState() override { Undo_AddThisState(); }
+
+    [[nodiscard]] bool Changed() const override { return pointer_ > 1; }
+
+private:
+    void load();
+    void enableMenu();
+
+    Board& board_;
+    LooseWire& looseWire_;
+    UndoMenu& menu_;
+    MessageBox& messages_;
+    Collection<clsKorvelRWRam> snapshots_;
+    std::int32_t pointer_ = 0;
+};
+
+} // namespace veltrix

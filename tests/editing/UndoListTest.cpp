@@ -1,0 +1,113 @@
+#include "tests/support/MemoryDesktop.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+namespace veltrix::test {
+
+namespace {
+
+struct UndoListTest : testing::Test {
+    UndoListTest() { desktop.Start(); }
+
+    void expectState(std::int32_t position, std::int32_t count) {
+        EXPECT_EQ(undo().Position(), position);
+        EXPECT_EQ(undo().Count(), count);
+        EXPECT_EQ(desktop.menu.undoEnabled, position >= 2);
+        EXPECT_EQ(desktop.menu.redoEnabled, position < count);
+    }
+
+    [[nodiscard]] const UndoList& undo() const { return desktop.form.TheUndoList(); }
+
+    [[nodiscard]] const Board& board() const { return desktop.form.TheBoard(); }
+
+    MemoryDesktop desktop;
+};
+
+TEST_F(UndoListTest, AFreshBoardHasOneSnapshotAndNothingToUndo) {
+    expectState(1, 1);
+    desktop.form.mnuNieuw_Click();
+    expectState(1, 1);
+}
+
+TEST_F(UndoListTest, AnEditAfterTwoUndosCutsOffWhatWasUndone) {
+    desktop.DrawWire("Drukknop 1 Uit Geel", "LED 1 Ingang");
+    desktop.DrawWire("Drukknop 1 Uit Geel", "LED 2 Ingang");
+    desktop.DrawWire("Drukknop 1 Uit Geel", "LED 3 Ingang");
+    expectState(4, 4);
+    desktop.form.mnuUndo_Click();
+    desktop.form.mnuUndo_Click();
+    expectState(2, 4);
+    desktop.DrawWire("Drukknop 1 Uit Geel", "LED 4 Ingang");
+    expectState(3, 3);
+    EXPECT_EQ(desktop.Wires(), 2);
+}
+
+TEST_F(UndoListTest, UndoAndRedoGiveBackButtonsSensorsKnobsAndCounter) {
+    desktop.DrawWire("Puls Generator Uit Geel", "Pulsenteller Tel pulsen (In)");
+    desktop.Click("Drukknop 1");
+    desktop.Click("Sensor 2");
+    desktop.form.mnuUndo_Click();
+    EXPECT_TRUE(board().PushButtons[0].Value());
+    EXPECT_EQ(board().Sensors[1].Value(), 0);
+    desktop.form.mnuUndo_Click();
+    EXPECT_FALSE(board().PushButtons[0].Value());
+    EXPECT_EQ(desktop.Wires(), 1);
+    desktop.form.mnuRedo_Click();
+    desktop.form.mnuRedo_Click();
+    EXPECT_TRUE(board().PushButtons[0].Value());
+    EXPECT_EQ(board().Sensors[1].Value(), 1);
+    expectState(4, 4);
+}
+
+TEST_F(UndoListTest, PastTheFirstSnapshotThereIsAMessageAndNothingIsLoaded) {
+    desktop.form.mnuUndo_Click();
+    ASSERT_EQ(desktop.messages.shown.size(), 1U);
+    EXPECT_EQ(desktop.messages.shown[0].text, "No more Undo's possible");
+    EXPECT_EQ(desktop.messages.shown[0].buttons, Buttons::Ok);
+    expectState(1, 1);
+}
+
+TEST_F(UndoListTest, PastTheLastSnapshotThereIsAMessageAndNothingIsLoaded) {
+    desktop.form.mnuRedo_Click();
+    ASSERT_EQ(desktop.messages.shown.size(), 1U);
+    EXPECT_EQ(desktop.messages.shown[0].text, "No more Redo's possible");
+    expectState(1, 1);
+}
+
+TEST_F(UndoListTest, ARefusedWireLeavesTheListAsItWas) {
+    desktop.DrawWire("Drukknop 1 Uit Geel", "LED 1 Ingang");
+    desktop.form.mnuUndo_Click();
+    expectState(1, 2);
+    desktop.DrawWire("Drukknop 1 Uit Geel", "Drukknop 2 Uit Geel");
+    expectState(1, 1);
+    EXPECT_EQ(desktop.Wires(), 0);
+}
+
+TEST_F(UndoListTest, BackAtTheFirstSnapshotClosingAsksNothing) {
+    desktop.Click("Drukknop 1");
+    desktop.form.mnuUndo_Click();
+    std::int32_t Cancel = 0;
+    desktop.form.Form_Unload(Cancel);
+    EXPECT_TRUE(desktop.messages.shown.empty());
+    EXPECT_EQ(desktop.program.ended, 0);
+}
+
+TEST_F(UndoListTest, ABoardTooLargeForASnapshotEndsTheEditInAnErrorAndKeepsTheBoard) {
+    desktop.Click("Drukknop 1");
+    desktop.form.mnuUndo_Click();
+    // No pupil draws this many; a document may hold them. 64001 bytes is what a snapshot holds.
+    Board& crowded = const_cast<Board&>(board());
+    for (int i = 0; i < 1800; ++i)
+        crowded.AddLine("Pulsenteller Tel pulsen (In)", "LED 1 Ingang");
+    EXPECT_THROW(desktop.Click("Drukknop 1"), std::out_of_range);
+    EXPECT_TRUE(board().PushButtons[0].Value());
+    EXPECT_EQ(desktop.Wires(), 1800);
+    EXPECT_EQ(undo().Count(), 1) << "the undone step is gone";
+    EXPECT_EQ(undo().Position(), 1);
+}
+
+} // namespace
+
+} // namespace veltrix::test
