@@ -40,13 +40,9 @@ struct FakeMessageBox : MessageBox {
 };
 
 struct FakeFileDialog : FileDialog {
-    std::optional<std::string> ShowOpen(const std::string& filter) override {
-        return answer(filter);
-    }
+    std::optional<std::string> ShowOpen(const std::string& asked) override { return answer(asked); }
 
-    std::optional<std::string> ShowSave(const std::string& filter) override {
-        return answer(filter);
-    }
+    std::optional<std::string> ShowSave(const std::string& asked) override { return answer(asked); }
 
     std::optional<std::string> chosen;
     std::string filter;
@@ -131,8 +127,8 @@ struct MemoryDesktop {
     FakeSoundPlayer player;
     FakeNotice notice;
     KeptLog log;
-    FORM1 form{{window, program, menu, menu, messages, files, timer, clock, pointer, sound, player,
-                log}};
+    FORM1 form{
+        {window, program, menu, menu, messages, files, timer, clock, pointer, sound, player, log}};
     EventEdge edge{form, messages, notice, log};
     int ticks = 0;
 

@@ -1,0 +1,63 @@
+#include "app/FORM1.h"
+
+#include <exception>
+
+namespace veltrix {
+
+FORM1::FORM1(const Desktop& desktop)
+    : desktop_(desktop),
+      undo_(board_, looseWire_, desktop.TheUndoMenu, desktop.Messages),
+      interaction_(board_, cursor_, looseWire_, undo_, desktop.ModeMenu, desktop.Messages),
+      files_(board_, undo_, desktop.Window, desktop.CommonDialog1, desktop.Messages, *this),
+      tick_({Pictor1, board_, graph_, desktop.TheClock, desktop.ThePointer, desktop.Sound,
+             desktop.Player, desktop.Timer1, interaction_}) {}
+
+void FORM1::Form_Load() {
+    desktop_.Window.ShowSplash();
+    if (!Pictor1.Start(desktop_.TheProgram.Folder(), Board::Width, Board::Height,
+                       desktop_.Window.Scale(), desktop_.TheLog)) {
+        FatalError("Can't load Pictor");
+        return;
+    }
+    Pictor1.AddListener(interaction_);
+    desktop_.Window.SetCaption(ProgramTitle());
+    board_.Constructor(Pictor1);
+    graph_.Constructor(board_.Display);
+    cursor_.Constructor(Pictor1);
+    mnuNieuweVerbindingen_Click();
+    desktop_.Window.SetSaveEnabled(false);
+    Pictor1.Refresh();
+    desktop_.Window.UnloadSplash();
+    desktop_.Window.Show();
+
+    // A document that cannot be read must not keep the board from starting.
+    std::exception_ptr unreadable;
+    try {
+        files_.OpenFromCommandLine(desktop_.TheProgram.CommandLine());
+    } catch (...) {
+        unreadable = std::current_exception();
+        Undo_AddThisState();
+    }
+    desktop_.Timer1.SetEnabled(true);
+    if (unreadable)
+        std::rethrow_exception(unreadable);
+}
+
+void FORM1::FatalError(const std::string& msg) {
+    desktop_.Messages.Show(msg, "Error", Buttons::Ok);
+    end(1);
+}
+
+void FORM1::ClearObjects() {
+    looseWire_.Line.reset();
+    board_.Lines = {};
+    end(0);
+}
+
+void FORM1::end(int status) {
+    ended_ = true;
+    desktop_.Timer1.SetEnabled(false);
+    desktop_.TheProgram.End(status);
+}
+
+} // namespace veltrix
