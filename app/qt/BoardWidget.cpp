@@ -1,0 +1,131 @@
+#include "app/qt/BoardWidget.h"
+
+#include <QImage>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <cmath>
+#include <optional>
+
+namespace veltrix {
+
+namespace {
+
+std::optional<MouseButton> buttonOf(Qt::MouseButton button) {
+    if (button == Qt::LeftButton)
+        return MouseButton::Left;
+    if (button == Qt::RightButton)
+        return MouseButton::Right;
+    return std::nullopt;
+}
+
+/// The board pixel that a position lies in; screens with a scale report parts of one.
+Point boardPixel(QPointF position) {
+    return {static_cast<std::int32_t>(std::floor(position.x())),
+            static_cast<std::int32_t>(std::floor(position.y()))};
+}
+
+} // namespace
+
+BoardWidget::BoardWidget(QWidget* parent) : QWidget(parent) {
+    setObjectName("Pictor1");
+    setAccessibleName(tr("Veltrix-bord"));
+    setFixedSize(Board::Width, Board::Height);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void BoardWidget::Connect(FORM1& form, EventEdge& edge) {
+    form_ = &form;
+    edge_ = &edge;
+}
+
+void BoardWidget::ShowChanges() {
+    const double scale = form_->Pictor1.Scale();
+    for (const Rect& rect : form_->Pictor1.Changed()) {
+        const QRectF area(rect.x / scale, rect.y / scale, rect.width / scale, rect.height / scale);
+        update(area.toAlignedRect());
+    }
+}
+
+void BoardWidget::paintEvent(QPaintEvent* event) {
+    if (form_ == nullptr)
+        return;
+    matchScale();
+    const Picture& frame = form_->Pictor1.Frame();
+    if (frame.Empty())
+        return;
+    QImage image(reinterpret_cast<const uchar*>(frame.pixels.data()), frame.width, frame.height,
+                 frame.width * 4, QImage::Format_RGB32);
+    image.setDevicePixelRatio(form_->Pictor1.Scale());
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    painter.drawImage(0, 0, image);
+}
+
+void BoardWidget::matchScale() {
+    // Asked when painting, because a window learns of another screen's scale in more ways than
+    // there are signals.
+    if (form_->Pictor1.Scale() == devicePixelRatioF())
+        return;
+    form_->Pictor1.Restart(devicePixelRatioF());
+    form_->Pictor1.Refresh();
+    update();
+}
+
+void BoardWidget::mousePressEvent(QMouseEvent* event) {
+    const auto button = buttonOf(event->button());
+    if (form_ == nullptr || !button)
+        return;
+    const Point at = boardPixel(event->position());
+    edge_->Mouse([&](FORM1& form) { form.Pictor1_MouseDown(*button, at.x, at.y); });
+    showShape(at.x, at.y);
+}
+
+void BoardWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+    // Two quick clicks on a push button press and release it.
+    mousePressEvent(event);
+}
+
+void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {
+    const auto button = buttonOf(event->button());
+    if (form_ == nullptr || !button)
+        return;
+    const Point at = boardPixel(event->position());
+    edge_->Mouse([&](FORM1& form) { form.Pictor1_MouseUp(*button, at.x, at.y); });
+}
+
+void BoardWidget::mouseMoveEvent(QMouseEvent* event) {
+    if (form_ == nullptr)
+        return;
+    const Point at = boardPixel(event->position());
+    edge_->Mouse([&](FORM1& form) { form.Pictor1_MouseMove(at.x, at.y); });
+    showShape(at.x, at.y);
+}
+
+void BoardWidget::leaveEvent(QEvent* event) {
+    if (form_ != nullptr)
+        edge_->Mouse([](FORM1& form) { form.Pictor1_MouseLeave(); });
+    QWidget::leaveEvent(event);
+}
+
+void BoardWidget::showShape(std::int32_t x, std::int32_t y) {
+    const PointerShape shape = form_->Pictor1_ShapeAt(x, y);
+    if (shape == shape_)
+        return;
+    shape_ = shape;
+    switch (shape) {
+    case PointerShape::Arrow:
+        unsetCursor();
+        break;
+    case PointerShape::Hand:
+        setCursor(Qt::PointingHandCursor);
+        break;
+    case PointerShape::Cross:
+        setCursor(Qt::CrossCursor);
+        break;
+    }
+}
+
+} // namespace veltrix

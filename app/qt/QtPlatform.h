@@ -1,0 +1,74 @@
+#pragma once
+
+#include "app/Desktop.h"
+#include "board/Log.h"
+#include "sim/Tick.h"
+
+#include <QElapsedTimer>
+#include <QPointer>
+#include <QTimer>
+
+#include <filesystem>
+#include <functional>
+
+class QWidget;
+
+namespace veltrix {
+
+/// The timer of the tick.
+class QtTickTimer : public TickTimer {
+public:
+    explicit QtTickTimer(std::function<void()> tick);
+
+    void SetEnabled(bool Enabled) override;
+    void SetInterval(std::int32_t Interval) override;
+
+private:
+    QTimer timer_;
+};
+
+class SystemClock : public Clock {
+public:
+    [[nodiscard]] float Timer() override;
+};
+
+/// Asks the desktop where the pointer is at most once a tick, since the answer may come from
+/// another process.
+class QtPointer : public Pointer {
+public:
+    /// `surface` shows the board, `bare` is what is left of the main window: its menu bar.
+    QtPointer(QWidget& surface, QWidget& bare);
+
+    [[nodiscard]] Point BoardPosition() override;
+    [[nodiscard]] bool OverBareMainWindow() override;
+
+private:
+    QWidget& surface_;
+    QWidget& bare_;
+    QElapsedTimer asked_;
+    Point position_;
+};
+
+class StandardErrorLog : public Log {
+public:
+    void Write(const std::string& line) noexcept override;
+};
+
+class QtProgram : public Program {
+public:
+    QtProgram();
+
+    [[nodiscard]] const std::filesystem::path& Folder() const override { return folder_; }
+
+    [[nodiscard]] std::string CommandLine() const override;
+    void End(int status) override;
+
+    /// What main returns when the program was ended before its event loop began.
+    [[nodiscard]] int Status() const noexcept { return status_; }
+
+private:
+    std::filesystem::path folder_;
+    int status_ = 0;
+};
+
+} // namespace veltrix

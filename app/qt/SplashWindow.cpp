@@ -1,0 +1,31 @@
+#include "app/qt/SplashWindow.h"
+
+#include "app/qt/QtPictures.h"
+
+#include <QLabel>
+
+namespace veltrix {
+
+namespace {
+
+constexpr int side = 300; // pixels
+
+} // namespace
+
+SplashWindow::SplashWindow(const std::filesystem::path& applicationFolder)
+    : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint) {
+    setObjectName("frmSplash");
+    setFixedSize(side, side);
+    auto* picture = new QLabel(this);
+    picture->setObjectName("picSplash");
+    picture->setGeometry(0, 0, side, side);
+    picture->setPixmap(LoadPixmap(applicationFolder, "\\images2\\splash.bmp", devicePixelRatioF()));
+    auto* text = new QLabel("Loading...", this);
+    text->setObjectName("Label1");
+    text->setGeometry(0, side - 40, side, 40);
+    text->setAlignment(Qt::AlignCenter);
+    text->setStyleSheet("color: white");
+    CentreOnScreen(*this);
+}
+
+} // namespace veltrix
