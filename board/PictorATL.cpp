@@ -77,6 +77,7 @@ void PictorATL::Restart(double scale) {
                          0xFF000000U);
     for (std::int32_t root = firstRoot_; root >= 0; root = node(root).next)
         touchTree(root);
+    damaged_.clear(); // those were places in the frame of the other scale
     damage({0, 0, frame_.width, frame_.height});
 }
 
@@ -91,6 +92,9 @@ void PictorATL::SetBitmapPixel(std::int32_t bitmap, std::int32_t x, std::int32_t
     for (const Node& sprite : nodes_)
         if (sprite.kind == Kind::Sprite && (sprite.bitmap == bitmap || sprite.mask == bitmap))
             damage(sprite.painted.rect);
+    for (const Ghost& ghost : ghosts_)
+        if (ghost.look.bitmap == bitmap || ghost.look.mask == bitmap)
+            damage(ghost.look.rect);
 }
 
 std::int32_t PictorATL::CreateSprite(std::int32_t bitmap) {
@@ -149,8 +153,7 @@ void PictorATL::SetLevel(std::int32_t sprite, std::int32_t level) {
         return;
     found->level = level;
     orderStale_ = true;
-    touchTree(indexOf(sprite));
-    damageTree(indexOf(sprite));
+    rankTree(indexOf(sprite));
 }
 
 void PictorATL::SetSpriteState(std::int32_t sprite, std::int32_t state) {
@@ -170,7 +173,7 @@ void PictorATL::AddToGroup(std::int32_t sprite, std::int32_t parent) {
             return;
     detach(index);
     attach(index, indexOf(parent));
-    touchTree(index);
+    rankTree(index);
 }
 
 void PictorATL::ClearGroup(std::int32_t group) {
@@ -268,7 +271,8 @@ bool PictorATL::takeOver(Node& fresh, const Look& look) {
         if (!(ghosts_[at].look == look))
             continue;
         const std::uint64_t before = ghosts_[at].age;
-        for (std::int32_t other = firstChildOf(look.parent); other >= 0; other = node(other).next) {
+        for (std::int32_t other = firstChildOf(fresh.parent); other >= 0;
+             other = node(other).next) {
             const Node& sibling = node(other);
             if (&sibling == &fresh || sibling.level != look.level)
                 continue;
@@ -302,12 +306,6 @@ void PictorATL::damage(const Rect& rect) {
         i = 0;
     }
     damaged_.push_back(grown);
-}
-
-void PictorATL::damageTree(std::int32_t index) {
-    damage(node(index).painted.rect);
-    for (std::int32_t child = node(index).firstChild; child >= 0; child = node(child).next)
-        damageTree(child);
 }
 
 void PictorATL::order() {
@@ -380,7 +378,7 @@ PictorATL::Look PictorATL::lookOf(std::int32_t index) const {
               bitmap->Column(sprite.source.x),
               bitmap->RowAt(sprite.source.y),
               sprite.level,
-              sprite.parent};
+              sprite.parent < 0 ? 0 : node(sprite.parent).rank};
     look.rect.x = toFrame(board.x);
     look.rect.y = toFrame(board.y);
     look.rect.width =
@@ -425,7 +423,7 @@ std::int32_t PictorATL::make(Kind kind) {
     fresh.kind = kind;
     fresh.touched = touched;
     fresh.generation = generation;
-    fresh.age = fresh.paintedAge = ++ages_;
+    fresh.age = fresh.paintedAge = fresh.rank = ++ages_;
     attach(index, -1);
     ++live_;
     return index;
@@ -502,6 +500,15 @@ void PictorATL::touchTree(std::int32_t index) {
     touch(index);
     for (std::int32_t child = node(index).firstChild; child >= 0; child = node(child).next)
         touchTree(child);
+}
+
+/// For what now lies elsewhere between the others. A new rank makes all that is attached to it look
+/// different, also where it comes back alike after it was cleared.
+void PictorATL::rankTree(std::int32_t index) {
+    touch(index);
+    node(index).rank = ++ages_;
+    for (std::int32_t child = node(index).firstChild; child >= 0; child = node(child).next)
+        rankTree(child);
 }
 
 bool PictorATL::shown(std::int32_t index) const noexcept {

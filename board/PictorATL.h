@@ -177,7 +177,7 @@ private:
         std::int32_t sourceX = 0;
         std::int32_t sourceY = 0;
         std::int32_t level = 0;
-        std::int32_t parent = -1;
+        std::uint64_t among = 0; // the rank of the parent
 
         friend bool operator==(const Look&, const Look&) = default;
     };
@@ -200,6 +200,7 @@ private:
         std::int32_t lastChild = -1;
         std::int32_t previous = -1;
         std::int32_t next = -1;
+        std::uint64_t rank = 0;       // another one whenever its place in the order changes
         std::uint64_t age = 0;        // grows with every sprite made
         std::uint64_t paintedAge = 0; // that of the sprite whose look this one took over
         Look painted;
@@ -229,6 +230,7 @@ private:
     void detach(std::int32_t index) noexcept;
     void touch(std::int32_t index);
     void touchTree(std::int32_t index);
+    void rankTree(std::int32_t index);
     void erase(std::int32_t index);
     [[nodiscard]] bool shown(std::int32_t index) const noexcept;
     [[nodiscard]] Rect boardRect(std::int32_t index) const noexcept;
@@ -239,7 +241,6 @@ private:
     [[nodiscard]] Look lookOf(std::int32_t index) const;
     bool takeOver(Node& fresh, const Look& look);
     void damage(const Rect& rect);
-    void damageTree(std::int32_t index);
     void order();
     void orderChildren(std::int32_t parent);
     void compose(const Rect& rect);
