@@ -1,31 +1,18 @@
 #include "document/clsKorvelWFile.h"
 
-#include "board/AppPath.h"
 #include "board/Arithmetic.h"
 #include "document/ChunkEncoding.h"
 #include "document/CodePage1252.h"
 
-#include <cerrno>
 #include <exception>
-#include <fstream>
 #include <system_error>
 #include <utility>
 
 namespace veltrix {
 
-namespace {
-
-void openToWrite(std::filebuf& file, const std::string& fname) {
-    const std::filesystem::path path = PathFromUtf8(fname);
-    errno = 0;
-    if (file.open(path, std::ios::in | std::ios::out | std::ios::binary) == nullptr &&
-        (errno != ENOENT || file.open(path, std::ios::out | std::ios::binary) == nullptr))
-        throw std::system_error(errno != 0 ? errno : EIO, std::generic_category(), fname);
-}
-
-} // namespace
-
 clsKorvelWFile::~clsKorvelWFile() {
+    if (std::uncaught_exceptions() > exceptions_)
+        return;
     try {
         CloseFile();
     } catch (const std::exception&) {
@@ -36,24 +23,15 @@ clsKorvelWFile::~clsKorvelWFile() {
 void clsKorvelWFile::OpenFile(const std::string& fname) {
     CloseFile();
     chunks_.Reset();
-    std::filebuf file;
-    openToWrite(file, fname);
-    path_ = fname;
-    written_.clear();
-    position_ = 0;
+    save_.Begin(fname);
+    exceptions_ = std::uncaught_exceptions();
 }
 
 void clsKorvelWFile::CloseFile() {
-    if (!path_)
-        return;
-    const std::string fname = *std::exchange(path_, std::nullopt);
-    std::filebuf file;
-    openToWrite(file, fname);
-    errno = 0;
-    if (file.sputn(written_.data(), static_cast<std::streamsize>(written_.size())) !=
-            static_cast<std::streamsize>(written_.size()) ||
-        file.close() == nullptr)
-        throw std::system_error(errno != 0 ? errno : EIO, std::generic_category(), fname);
+    const std::string content = std::exchange(written_, {});
+    position_ = 0;
+    if (save_.Begun())
+        save_.Commit(content);
 }
 
 void clsKorvelWFile::BeginChunk(std::int16_t i) {
@@ -101,7 +79,7 @@ void clsKorvelWFile::put(const Bytes& bytes) {
 }
 
 void clsKorvelWFile::putByte(std::uint8_t byte) {
-    if (!path_)
+    if (!save_.Begun())
         throw std::system_error(std::make_error_code(std::errc::bad_file_descriptor));
     const auto at = static_cast<std::size_t>(position_);
     const std::int32_t next = CheckedAdd(position_, 1);

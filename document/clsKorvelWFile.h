@@ -1,23 +1,28 @@
 #pragma once
 
 #include "document/ChunkStack.h"
+#include "document/FileSave.h"
+#include "document/SaveCalls.h"
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 
 namespace veltrix {
 
-/// Writes chunks to a file. They reach the file when it is closed. Every write throws
-/// std::system_error when no file is open.
+/// Writes chunks to a file. They reach the file when it is closed, all of them or none (see
+/// FileSave). Every write throws std::system_error when no file is open.
 class clsKorvelWFile {
 public:
-    clsKorvelWFile() = default;
+    /// `calls` must outlive the stream.
+    explicit clsKorvelWFile(SaveCalls& calls = PlatformSaveCalls()) noexcept : save_(calls) {}
+
     clsKorvelWFile(const clsKorvelWFile&) = delete;
     clsKorvelWFile& operator=(const clsKorvelWFile&) = delete;
 
-    /// Closes the file. What can no longer be reported is lost: close a file that matters oneself.
+    /// Closes the file, unless an exception is on its way that came up while it was open: a stream
+    /// that was not finished must not take the place of a whole file. What goes wrong here can no
+    /// longer be reported: a file that matters is closed by CloseFile.
     ~clsKorvelWFile();
 
     /// Opens a file (UTF-8 path) at its start, after closing the one that is open. A file that is
@@ -25,7 +30,8 @@ public:
     /// Throws std::system_error, with no file open, when it cannot be written.
     void OpenFile(const std::string& fname);
 
-    /// Does nothing when no file is open. Throws std::system_error when the file cannot be written.
+    /// Does nothing when no file is open. Throws std::system_error when the file cannot be written;
+    /// it is closed then, and what was there before is still there.
     void CloseFile();
 
     /// Throws std::out_of_range when 100 chunks are open, after the type was written.
@@ -48,7 +54,8 @@ private:
     void put(const Bytes& bytes);
     void putByte(std::uint8_t byte);
 
-    std::optional<std::string> path_; // none when no file is open
+    FileSave save_;
+    int exceptions_ = 0; // on their way when the file was opened
     std::string written_;
     ChunkStack chunks_;
     std::int32_t position_ = 0; // in what was written
