@@ -1,5 +1,4 @@
 import socket
-import struct
 
 from planted import PlantedMachine
 
@@ -53,12 +52,7 @@ class Run(PlantedMachine):
 
     def test_draws_the_empty_board_when_none_is_named(self):
         self.assert_passes(self.run_it(), str(self.tree / "build/pictures/leeg.png"))
-        board = self.tree / "build/pictures/leeg.vtx"
-        self.assertIn(f"render {board} ", self.called()[-1])
-        settings = struct.pack("<hi34x", 0x1000, 34)
-        wires = struct.pack("<hi", 0x2000, 0)
-        self.assertEqual(board.read_bytes(),
-                         struct.pack("<hi", -9510, len(settings + wires)) + settings + wires)
+        self.assertIn(f"render {self.tree / 'examples/leeg.vtx'} ", self.called()[-1])
 
     def test_wayland_display_counts_when_its_socket_is_there(self):
         self.assert_passes(self.run_it(WAYLAND_DISPLAY="wayland-0", XDG_RUNTIME_DIR=str(self.tree)),
