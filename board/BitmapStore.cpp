@@ -115,6 +115,9 @@ void BitmapStore::load(Bitmap& bitmap) {
             return;
         }
 
+    bitmap.picture = std::make_shared<Picture>();
+    if (folder_.empty())
+        return;
     std::string reason;
     for (const int pixels : byPreference(scale_)) {
         try {
@@ -135,7 +138,6 @@ void BitmapStore::load(Bitmap& bitmap) {
                 reason = error.what();
         }
     }
-    bitmap.picture = std::make_shared<Picture>();
     if (reported_.insert(bitmap.name).second)
         log_->Write(Utf8FromPath(AppPath(folder_, bitmap.name)) + ": " + reason);
 }

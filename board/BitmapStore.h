@@ -27,7 +27,7 @@ public:
         [[nodiscard]] std::int32_t RowAt(std::int64_t y) const noexcept;
     };
 
-    /// `log` must outlive the store.
+    /// `log` must outlive the store. See PictorATL::Start.
     void Start(const std::filesystem::path& applicationFolder, double scale, Log& log);
 
     /// Loads every picture anew for another scale; pixels that were set stay set.

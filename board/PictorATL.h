@@ -74,9 +74,10 @@ public:
     PictorATL& operator=(const PictorATL&) = delete;
 
     /// Makes the surface ready for `width` by `height` board pixels on a screen on which one board
-    /// pixel is `scale` pixels wide. Pictures are found from `applicationFolder`. Comes before
-    /// every other operation; `log` must outlive the surface. False when it cannot start (a size or
-    /// scale that is not positive or too large).
+    /// pixel is `scale` pixels wide. Pictures are found from `applicationFolder`; where that is
+    /// empty nobody looks, so that no picture is loaded and none is missed. Comes before every
+    /// other operation; `log` must outlive the surface. False when it cannot start (a size or scale
+    /// that is not positive or too large).
     [[nodiscard]] bool Start(const std::filesystem::path& applicationFolder, std::int32_t width,
                              std::int32_t height, double scale, Log& log);
 
