@@ -1,11 +1,14 @@
 #pragma once
 
+#include "app/frmWaveInputs.h"
+#include "app/modControlPanel.h"
 #include "board/Log.h"
 #include "document/Dialogs.h"
 #include "document/FileCommands.h"
 #include "editing/BoardInteraction.h"
 #include "editing/UndoList.h"
-#include "instruments/SoundSensor.h"
+#include "instruments/Settings.h"
+#include "instruments/UCWaveIn.h"
 #include "sim/Tick.h"
 
 #include <cstdint>
@@ -56,7 +59,10 @@ struct Desktop {
     TickTimer& Timer1;
     Clock& TheClock;
     Pointer& ThePointer;
-    SoundSensor& Sound;
+    UCWaveIn::Captures TheWaveIn;
+    Settings& TheSettings;
+    WaveInputsViews& WaveInputs;
+    ProgramStart& Programs;
     SoundPlayer& Player;
     Log& TheLog;
 };

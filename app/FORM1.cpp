@@ -5,11 +5,12 @@
 namespace veltrix {
 
 FORM1::FORM1(const Desktop& desktop)
-    : desktop_(desktop),
+    : UCWaveIn1(desktop.TheWaveIn, desktop.TheSettings),
+      desktop_(desktop),
       undo_(board_, looseWire_, desktop.TheUndoMenu, desktop.Messages),
       interaction_(board_, cursor_, looseWire_, undo_, desktop.ModeMenu, desktop.Messages),
       files_(board_, undo_, desktop.Window, desktop.CommonDialog1, desktop.Messages, *this),
-      tick_({Pictor1, board_, graph_, desktop.TheClock, desktop.ThePointer, desktop.Sound,
+      tick_({Pictor1, board_, graph_, desktop.TheClock, desktop.ThePointer, UCWaveIn1,
              desktop.Player, desktop.Timer1, interaction_}) {}
 
 void FORM1::Form_Load() {
@@ -41,6 +42,12 @@ void FORM1::Form_Load() {
     desktop_.Timer1.SetEnabled(true);
     if (unreadable)
         std::rethrow_exception(unreadable);
+}
+
+void FORM1::mnuGeluidSensor_Click() {
+    frmWaveInputs dialog(desktop_.WaveInputs.Create(), desktop_.Programs);
+    dialog.Constructor(UCWaveIn1);
+    dialog.Show();
 }
 
 void FORM1::FatalError(const std::string& msg) {

@@ -7,6 +7,7 @@
 #include "editing/UndoList.h"
 #include "editing/clsCursor.h"
 #include "instruments/Board.h"
+#include "instruments/UCWaveIn.h"
 #include "sim/Tick.h"
 #include "sim/clsGraph.h"
 
@@ -48,6 +49,8 @@ public:
     void mnuUndo_Click() { undo_.mnuUndo_Click(); }
 
     void mnuRedo_Click() { undo_.mnuRedo_Click(); }
+
+    void mnuGeluidSensor_Click();
 
     void mnuRegelen_Click() { interaction_.SetMode(EditMode::Operate); }
 
@@ -99,6 +102,7 @@ public:
     [[nodiscard]] const Tick& TheTick() const noexcept { return tick_; }
 
     PictorATL Pictor1;
+    UCWaveIn UCWaveIn1;
 
 private:
     void end(int status);

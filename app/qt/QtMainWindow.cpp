@@ -111,6 +111,8 @@ void QtMainWindow::buildMenu() {
                     QKeySequence("Ctrl+Z"));
     redo_ =
         addItem(bewerken, "mnuRedo", "&Herhalen", &FORM1::mnuRedo_Click, QKeySequence("Ctrl+Y"));
+    bewerken.addSeparator()->setObjectName("mnuSep2");
+    addItem(bewerken, "mnuGeluidSensor", "GeluidSensor", &FORM1::mnuGeluidSensor_Click);
 
     QMenu& cursor = *menuBar()->addMenu("Cursor");
     cursor.setObjectName("mnuCursor");

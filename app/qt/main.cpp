@@ -3,21 +3,16 @@
 #include "app/qt/QtDialogs.h"
 #include "app/qt/QtMainWindow.h"
 #include "app/qt/QtPlatform.h"
+#include "app/qt/QtProgramStart.h"
+#include "app/qt/QtSettings.h"
+#include "app/qt/QtWaveInputsDialog.h"
+#include "app/qt/Sound.h"
 
 #include <QApplication>
 #include <QMenuBar>
 
-namespace {
-
-/// A board without a microphone and a loudspeaker.
-class Silence : public veltrix::SoundSensor, public veltrix::SoundPlayer {
-public:
-    std::int32_t GetVolume() override { return 0; }
-
-    void Play(const std::string& /*name*/) override {}
-};
-
-} // namespace
+#include <cstdlib>
+#include <memory>
 
 int main(int argc, char** argv) {
     using namespace veltrix;
@@ -31,19 +26,29 @@ int main(int argc, char** argv) {
     QtPointer pointer(window.Surface(), *window.menuBar());
     SystemClock clock;
     StandardErrorLog log;
-    Silence silence;
+    QtSettings settings;
+    QtWaveInputsDialogs waveInputs(window);
+    QtProgramStart programs;
+    const std::unique_ptr<Sound> sound = MakeSound(program.Folder(), log);
 
     EventEdge* edge = nullptr;
     QtTickTimer timer([&] {
         edge->Tick();
         window.Surface().ShowChanges();
     });
-    FORM1 form({window, program, window, window, messages, files, timer, clock, pointer, silence,
-                silence, log});
+    FORM1 form({window, program, window, window, messages, files, timer, clock, pointer,
+                sound->Captures(), settings, waveInputs, programs, sound->Player(), log});
     EventEdge eventEdge(form, messages, notice, log);
     edge = &eventEdge;
     window.Connect(form, eventEdge);
 
+    QtTickTimer waveTimer(
+        [&] { eventEdge.Mouse([](FORM1& running) { running.UCWaveIn1.Timer1_Timer(); }); });
+    waveTimer.SetEnabled(true);
+
     eventEdge.Command([](FORM1& starting) { starting.Form_Load(); });
-    return form.Ended() ? program.Status() : QApplication::exec();
+    const int status = form.Ended() ? program.Status() : QApplication::exec();
+    if (!sound->Close())
+        std::_Exit(status);
+    return status;
 }

@@ -2,6 +2,7 @@
 
 #include "app/EventEdge.h"
 #include "app/FORM1.h"
+#include "tests/support/FakeSound.h"
 #include "tests/support/Logs.h"
 #include "tests/support/TestSimulation.h"
 
@@ -9,6 +10,8 @@
 #include <deque>
 #include <filesystem>
 #include <functional>
+#include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -107,6 +110,65 @@ struct FakeNotice : FaultNotice {
     std::vector<std::string> shown;
 };
 
+/// The dialog of the sound inputs. While it is shown the test does `whileShown`.
+struct FakeWaveInputs {
+    std::string inputCount;
+    std::map<std::int32_t, std::string> names;
+    std::map<std::int32_t, float> widths;
+    std::map<std::int32_t, bool> visible;
+    int shown = 0;
+    bool unloaded = false;
+};
+
+struct FakeWaveInputsViews : WaveInputsViews {
+    using WhileShown = std::function<void(frmWaveInputs&, FakeWaveInputs&)>;
+
+    struct View : WaveInputsView {
+        View(FakeWaveInputs& seen, const WhileShown& whileShown)
+            : seen_(seen), whileShown_(whileShown) {}
+
+        void SetInputCount(const std::string& caption) override { seen_.inputCount = caption; }
+
+        void SetName(std::int32_t i, const std::string& caption) override {
+            seen_.names[i] = caption;
+        }
+
+        void SetMeter(std::int32_t i, float width, bool visible) override {
+            seen_.widths[i] = width;
+            seen_.visible[i] = visible;
+        }
+
+        void ShowModal(frmWaveInputs& dialog) override {
+            ++seen_.shown;
+            if (whileShown_)
+                whileShown_(dialog, seen_);
+        }
+
+        void Unload() override { seen_.unloaded = true; }
+
+    private:
+        FakeWaveInputs& seen_;
+        const WhileShown& whileShown_;
+    };
+
+    std::unique_ptr<WaveInputsView> Create() override {
+        return std::make_unique<View>(dialogs.emplace_back(), whileShown);
+    }
+
+    std::deque<FakeWaveInputs> dialogs; ///< every one that was made
+    WhileShown whileShown;
+};
+
+struct FakeProgramStart : ProgramStart {
+    bool Start(const std::string& commandLine) override {
+        asked.push_back(commandLine);
+        return commandLine.substr(0, commandLine.find(' ')) == installed;
+    }
+
+    std::vector<std::string> asked;
+    std::string installed; ///< the one program that is there
+};
+
 /// The whole program on a desktop that is only memory. The test is the user: it clicks snaps by
 /// name, chooses menu items, answers boxes and turns the clock.
 struct MemoryDesktop {
@@ -123,12 +185,14 @@ struct MemoryDesktop {
     FakeTickTimer timer;
     FakeClock clock;
     FakePointer pointer;
-    FakeSoundSensor sound;
+    FakeSoundInputs sound;
+    FakeWaveInputsViews waveInputs;
+    FakeProgramStart programs;
     FakeSoundPlayer player;
     FakeNotice notice;
     KeptLog log;
-    FORM1 form{
-        {window, program, menu, menu, messages, files, timer, clock, pointer, sound, player, log}};
+    FORM1 form{{window, program, menu, menu, messages, files, timer, clock, pointer,
+                sound.Captures(), sound.settings, waveInputs, programs, player, log}};
     EventEdge edge{form, messages, notice, log};
     int ticks = 0;
 

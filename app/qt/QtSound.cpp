@@ -1,0 +1,107 @@
+#include "app/qt/QtSound.h"
+
+#include <QDeadlineTimer>
+
+#include <algorithm>
+#include <utility>
+
+namespace veltrix {
+
+namespace {
+
+constexpr int supervisionInterval = 1000; // ms
+constexpr int patienceAtExit = 700;       // ms
+
+} // namespace
+
+std::int32_t QtAudioTap::DeviceCount() {
+    return sound_.Inputs().Count();
+}
+
+std::string QtAudioTap::DeviceName(std::int32_t i) {
+    return sound_.Inputs().Name(i);
+}
+
+bool QtAudioTap::DeviceValid(std::int32_t i) {
+    return sound_.Inputs().Valid(i);
+}
+
+void QtAudioTap::Start() {
+    sound_.Inputs().Want(index_);
+    sound_.OpenInputs();
+}
+
+std::int32_t QtAudioTap::Level() {
+    return sound_.Inputs().Level(index_);
+}
+
+void QtSoundPlayer::Play(const std::string& name) {
+    sound_.Play(name);
+}
+
+QtSound::QtSound(std::filesystem::path applicationFolder, Log& log)
+    : applicationFolder_(std::move(applicationFolder)), log_(log) {
+    taps_.reserve(UCWaveIn::Inputs);
+    for (std::int32_t i = 0; i < UCWaveIn::Inputs; ++i)
+        taps_.emplace_back(*this);
+    startWorker();
+    connect(&supervision_, &QTimer::timeout, this, &QtSound::replaceHangingWorker);
+    supervision_.start(supervisionInterval);
+}
+
+UCWaveIn::Captures QtSound::Captures() {
+    UCWaveIn::Captures captures{};
+    std::transform(taps_.begin(), taps_.end(), captures.begin(),
+                   [](QtAudioTap& tap) { return &tap; });
+    return captures;
+}
+
+bool QtSound::Close() {
+    supervision_.stop();
+    for (QThread* thread : threads_)
+        thread->quit();
+    const QDeadlineTimer deadline(patienceAtExit);
+    const bool ended = std::all_of(threads_.begin(), threads_.end(),
+                                   [&](QThread* thread) { return thread->wait(deadline); });
+    if (!ended)
+        return false;
+    for (QThread* thread : std::exchange(threads_, {}))
+        delete thread;
+    return true;
+}
+
+void QtSound::OpenInputs() {
+    QMetaObject::invokeMethod(worker_, &SoundWorker::OpenInputs, Qt::QueuedConnection);
+}
+
+void QtSound::Play(const std::string& name) {
+    if (wish_->Set(name))
+        QMetaObject::invokeMethod(worker_, &SoundWorker::PlayWish, Qt::QueuedConnection);
+}
+
+void QtSound::startWorker() {
+    auto* thread = new QThread;
+    threads_.push_back(thread);
+    worker_ = new SoundWorker(inputs_, wish_, applicationFolder_);
+    worker_->moveToThread(thread);
+    connect(thread, &QThread::started, worker_, &SoundWorker::Begin);
+    connect(thread, &QThread::finished, worker_, &QObject::deleteLater);
+    connect(worker_, &SoundWorker::Fault, this,
+            [this](const QString& line) { log_.Write(line.toStdString()); });
+    thread->start();
+}
+
+void QtSound::replaceHangingWorker() {
+    const auto input = inputs_->TakeHanging();
+    if (!input)
+        return;
+    log_.Write("sound: input " + inputs_->Name(*input) + " does not open");
+    worker_->Abandon();
+    startWorker();
+}
+
+std::unique_ptr<Sound> MakeSound(const std::filesystem::path& applicationFolder, Log& log) {
+    return std::make_unique<QtSound>(applicationFolder, log);
+}
+
+} // namespace veltrix
