@@ -1,0 +1,275 @@
+#include "tests/board/Canvas.h"
+
+#include <gtest/gtest.h>
+
+namespace veltrix {
+namespace {
+
+using test::Canvas;
+using test::plain;
+
+constexpr std::uint32_t red = 0xFFFF0000;
+constexpr std::uint32_t green = 0xFF00FF00;
+constexpr std::uint32_t blue = 0xFF0000FF;
+constexpr std::uint32_t nothing = Canvas::nothing;
+
+/// A canvas on which everything so far has been painted, and whose frame is marked, so that a
+/// pixel which is painted again loses its mark.
+struct Painted : Canvas {
+    using Canvas::Canvas;
+
+    std::int32_t again(std::int32_t bitmap, std::int32_t x, std::int32_t y) {
+        const std::int32_t sprite = surface.CreateSprite(bitmap);
+        surface.PlaceSprite(sprite, x, y);
+        return sprite;
+    }
+
+    /// What a Refresh paints now.
+    const std::vector<Rect>& painted() {
+        surface.Refresh();
+        return surface.Changed();
+    }
+};
+
+using Rects = std::vector<Rect>;
+
+TEST(PictorATLRefresh, TheFirstOneAndOneAtAnotherScalePaintAll) {
+    Painted canvas;
+    EXPECT_EQ(canvas.painted(), Rects({{0, 0, 40, 30}}));
+    canvas.surface.Restart(1.25);
+    EXPECT_EQ(canvas.painted(), Rects({{0, 0, 50, 38}}));
+}
+
+TEST(PictorATLRefresh, WhereNothingChangedNothingIsPainted) {
+    Painted canvas;
+    const std::int32_t sprite = canvas.sprite(red, {3, 4, 5, 6});
+    canvas.surface.Refresh();
+    EXPECT_EQ(canvas.painted(), Rects());
+    canvas.surface.RedrawSprite(sprite);
+    canvas.surface.PlaceSprite(sprite, 3, 4);
+    canvas.surface.SetSpriteSize(sprite, 5, 6);
+    canvas.surface.SetSpriteSource(sprite, 0, 0);
+    canvas.surface.SetSpriteFlags(sprite, spriteFlags::ReportsMouse);
+    canvas.surface.SetLevel(sprite, 0);
+    canvas.surface.SetSpriteState(sprite, spriteState::Shown);
+    EXPECT_EQ(canvas.painted(), Rects());
+}
+
+TEST(PictorATLRefresh, WhatChangesBackBeforeItIsNotPainted) {
+    Painted canvas;
+    const std::int32_t sprite = canvas.sprite(red, {3, 4, 5, 6});
+    canvas.surface.Refresh();
+    canvas.surface.PlaceSprite(sprite, 20, 20);
+    canvas.surface.SetSpriteState(sprite, spriteState::Hidden);
+    canvas.surface.PlaceSprite(sprite, 3, 4);
+    canvas.surface.SetSpriteState(sprite, spriteState::Shown);
+    EXPECT_EQ(canvas.painted(), Rects());
+}
+
+TEST(PictorATLRefresh, WhatIsNotSeenIsNotPainted) {
+    Painted canvas;
+    const std::int32_t group = canvas.surface.NewGroup();
+    canvas.surface.SetSpriteState(group, spriteState::Hidden);
+    canvas.surface.Refresh();
+    const std::int32_t hidden = canvas.sprite(red, {3, 4, 5, 6}, group);
+    canvas.sprite(red, {-5, 0, 5, 5});
+    canvas.sprite(red, {40, 0, 5, 5});
+    canvas.surface.CreateSprite(0);
+    EXPECT_EQ(canvas.painted(), Rects());
+    canvas.surface.PlaceSprite(hidden, 10, 10);
+    canvas.surface.DeleteSprite(hidden);
+    EXPECT_EQ(canvas.painted(), Rects());
+}
+
+TEST(PictorATLRefresh, ASpriteThatMovesIsPaintedAtBothPlaces) {
+    Painted canvas;
+    const std::int32_t sprite = canvas.sprite(red, {3, 4, 5, 6});
+    canvas.surface.Refresh();
+    canvas.surface.PlaceSprite(sprite, 20, 10);
+    Rects rects = canvas.painted();
+    ASSERT_EQ(rects.size(), 2U);
+    EXPECT_NE(std::find(rects.begin(), rects.end(), Rect{3, 4, 5, 6}), rects.end());
+    EXPECT_NE(std::find(rects.begin(), rects.end(), Rect{20, 10, 5, 6}), rects.end());
+    EXPECT_EQ(canvas.pixel(3, 4), nothing);
+    EXPECT_EQ(canvas.pixel(24, 15), red);
+}
+
+TEST(PictorATLRefresh, PlacesThatOverlapArePaintedAsOne) {
+    Painted canvas;
+    const std::int32_t sprite = canvas.sprite(red, {3, 4, 5, 6});
+    canvas.surface.Refresh();
+    canvas.surface.PlaceSprite(sprite, 5, 5);
+    EXPECT_EQ(canvas.painted(), Rects({{3, 4, 7, 7}}));
+}
+
+TEST(PictorATLRefresh, OnlyThePartOnTheBoardIsPainted) {
+    Painted canvas(2);
+    const std::int32_t sprite = canvas.sprite(red, {3, 4, 5, 6});
+    canvas.surface.Refresh();
+    canvas.surface.PlaceSprite(sprite, 38, -2);
+    const Rects rects = canvas.painted();
+    ASSERT_EQ(rects.size(), 2U);
+    EXPECT_NE(std::find(rects.begin(), rects.end(), Rect{76, 0, 4, 8}), rects.end());
+}
+
+TEST(PictorATLRefresh, ASpriteMadeAgainAlikeIsNotPainted) {
+    Painted canvas;
+    canvas.sprite(blue, {0, 0, 40, 30});
+    const std::int32_t bitmap = canvas.bitmap(plain(5, 5, red));
+    std::int32_t sprite = canvas.again(bitmap, 10, 10);
+    canvas.surface.Refresh();
+    const std::vector<std::uint32_t> before = canvas.surface.Frame().pixels;
+    for (int i = 0; i < 3; ++i) {
+        canvas.surface.SetSpriteState(sprite, spriteState::Leaving);
+        canvas.surface.RedrawSprite(sprite);
+        canvas.surface.DeleteSprite(sprite);
+        sprite = canvas.again(bitmap, 10, 10);
+        EXPECT_EQ(canvas.painted(), Rects());
+    }
+    EXPECT_EQ(canvas.surface.Frame().pixels, before);
+    canvas.surface.DeleteSprite(sprite);
+    EXPECT_EQ(canvas.painted(), Rects({{10, 10, 5, 5}}));
+    EXPECT_EQ(canvas.pixel(10, 10), blue);
+}
+
+TEST(PictorATLRefresh, ASpriteMadeAgainUnlikeIsPainted) {
+    Painted canvas;
+    const std::int32_t bitmap = canvas.bitmap(plain(5, 5, red));
+    const std::int32_t other = canvas.bitmap(plain(5, 5, green));
+    std::int32_t sprite = canvas.again(bitmap, 10, 10);
+    canvas.surface.Refresh();
+    canvas.surface.DeleteSprite(sprite);
+    sprite = canvas.again(other, 10, 10);
+    EXPECT_EQ(canvas.painted(), Rects({{10, 10, 5, 5}}));
+    EXPECT_EQ(canvas.pixel(10, 10), green);
+    canvas.surface.DeleteSprite(sprite);
+    sprite = canvas.again(other, 10, 10);
+    canvas.surface.SetSpriteSize(sprite, 5, 4);
+    EXPECT_EQ(canvas.painted(), Rects({{10, 10, 5, 5}}));
+    EXPECT_EQ(canvas.pixel(10, 14), nothing);
+}
+
+TEST(PictorATLRefresh, TwoMadeAgainInTheSameOrderAreNotPaintedAndInTheOtherOrderAre) {
+    Painted canvas;
+    const std::int32_t redBitmap = canvas.bitmap(plain(8, 8, red));
+    const std::int32_t greenBitmap = canvas.bitmap(plain(8, 8, green));
+    std::int32_t lower = canvas.again(redBitmap, 0, 0);
+    std::int32_t upper = canvas.again(greenBitmap, 4, 4);
+    canvas.surface.Refresh();
+    canvas.surface.DeleteSprite(upper);
+    canvas.surface.DeleteSprite(lower);
+    lower = canvas.again(redBitmap, 0, 0);
+    upper = canvas.again(greenBitmap, 4, 4);
+    EXPECT_EQ(canvas.painted(), Rects());
+    canvas.surface.DeleteSprite(lower);
+    canvas.surface.DeleteSprite(upper);
+    canvas.again(greenBitmap, 4, 4);
+    canvas.again(redBitmap, 0, 0);
+    EXPECT_FALSE(canvas.painted().empty());
+    EXPECT_EQ(canvas.pixel(5, 5), red);
+    EXPECT_EQ(canvas.pixel(11, 11), green);
+}
+
+TEST(PictorATLRefresh, ASpriteMadeAgainAboveAnotherOneIsPainted) {
+    Painted canvas;
+    const std::int32_t bitmap = canvas.bitmap(plain(8, 8, red));
+    const std::int32_t sprite = canvas.again(bitmap, 0, 0);
+    canvas.sprite(green, {4, 4, 8, 8});
+    canvas.surface.Refresh();
+    EXPECT_EQ(canvas.pixel(5, 5), green);
+    canvas.surface.DeleteSprite(sprite);
+    canvas.again(bitmap, 0, 0);
+    EXPECT_EQ(canvas.painted(), Rects({{0, 0, 8, 8}}));
+    EXPECT_EQ(canvas.pixel(5, 5), red);
+}
+
+TEST(PictorATLRefresh, AGroupMadeAgainAboveAnotherOneIsPainted) {
+    Painted canvas;
+    const std::int32_t bitmap = canvas.bitmap(plain(8, 8, red));
+    const auto groupAt = [&] {
+        const std::int32_t group = canvas.surface.NewGroup();
+        canvas.surface.AddToGroup(canvas.again(bitmap, 0, 0), group);
+        return group;
+    };
+    const std::int32_t group = groupAt();
+    canvas.sprite(green, {4, 4, 8, 8}, canvas.surface.NewGroup());
+    canvas.surface.Refresh();
+    EXPECT_EQ(canvas.pixel(5, 5), green);
+    canvas.surface.DeleteSprite(group);
+    groupAt();
+    EXPECT_EQ(canvas.shown(5, 5), red);
+}
+
+TEST(PictorATLRefresh, AClearedGroupThatIsFilledAlikeIsPaintedWhereItsLevelChanged) {
+    Painted canvas;
+    const std::int32_t bitmap = canvas.bitmap(plain(8, 8, red));
+    const std::int32_t group = canvas.surface.NewGroup();
+    const auto fill = [&] {
+        canvas.surface.ClearGroup(group);
+        canvas.surface.AddToGroup(canvas.again(bitmap, 0, 0), group);
+    };
+    fill();
+    canvas.sprite(green, {4, 4, 8, 8});
+    canvas.surface.Refresh();
+    fill();
+    EXPECT_EQ(canvas.painted(), Rects());
+    canvas.surface.ClearGroup(group);
+    canvas.surface.SetLevel(group, 1);
+    fill();
+    EXPECT_EQ(canvas.shown(5, 5), red);
+}
+
+TEST(PictorATLRefresh, WhatIsAttachedToAMovedGroupIsPaintedWhereItsOrderChanged) {
+    Painted canvas;
+    const std::int32_t high = canvas.surface.NewGroup();
+    canvas.surface.SetLevel(high, 1);
+    const std::int32_t group = canvas.surface.NewGroup();
+    canvas.sprite(red, {0, 0, 8, 8}, group);
+    canvas.sprite(green, {4, 4, 8, 8});
+    canvas.surface.Refresh();
+    canvas.surface.AddToGroup(group, high);
+    EXPECT_EQ(canvas.shown(5, 5), red);
+}
+
+TEST(PictorATLRefresh, APixelThatIsSetIsPaintedWhereverItIsShown) {
+    Painted canvas;
+    const std::int32_t bitmap = canvas.bitmap(plain(4, 4, red));
+    canvas.again(bitmap, 0, 0);
+    const std::int32_t sprite = canvas.again(bitmap, 20, 0);
+    canvas.again(bitmap, 0, 20);
+    canvas.surface.Refresh();
+    canvas.surface.DeleteSprite(sprite);
+    canvas.surface.SetBitmapPixel(bitmap, 1, 1, 0x00FF00);
+    canvas.again(bitmap, 20, 0);
+    EXPECT_EQ(canvas.painted().size(), 3U);
+    EXPECT_EQ(canvas.pixel(1, 1), green);
+    EXPECT_EQ(canvas.pixel(21, 1), green);
+    EXPECT_EQ(canvas.pixel(1, 21), green);
+}
+
+TEST(PictorATLRefresh, WhatWaitedToBePaintedFitsTheFrameOfASmallerScale) {
+    Painted canvas(3);
+    const std::int32_t bitmap = canvas.bitmap(plain(4, 4, red));
+    const std::int32_t sprite = canvas.again(bitmap, 36, 26);
+    canvas.surface.Refresh();
+    canvas.surface.SetBitmapPixel(bitmap, 1, 1, 0x00FF00);
+    canvas.surface.SetLevel(sprite, 1);
+    canvas.surface.Restart(1);
+    EXPECT_EQ(canvas.painted(), Rects({{0, 0, 40, 30}}));
+    EXPECT_EQ(canvas.pixel(37, 27), green);
+}
+
+TEST(PictorATLRefresh, TheFrameIsTouchedOnlyByIt) {
+    Painted canvas;
+    const std::int32_t sprite = canvas.sprite(red, {0, 0, 5, 5});
+    canvas.surface.Refresh();
+    canvas.surface.DeleteSprite(sprite);
+    canvas.sprite(green, {10, 10, 5, 5});
+    EXPECT_EQ(canvas.pixel(0, 0), red);
+    EXPECT_EQ(canvas.pixel(10, 10), nothing);
+    EXPECT_EQ(canvas.shown(0, 0), nothing);
+    EXPECT_EQ(canvas.pixel(10, 10), green);
+}
+
+} // namespace
+} // namespace veltrix
