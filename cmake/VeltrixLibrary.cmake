@@ -16,6 +16,10 @@ if(VELTRIX_SANITIZE)
         -O1 -g1 -fno-omit-frame-pointer -fsanitize=address,undefined -fno-sanitize-recover=all)
     target_link_options(veltrix_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(VELTRIX_FUZZ)
+    # Lets the fuzzer see which code an input reaches, without its main.
+    target_compile_options(veltrix_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # veltrix_library(NAME SOURCES... DEPENDS LIBRARIES...)
 # One folder, one library. It links only the rooms it builds on, so a call to any other room has
