@@ -25,7 +25,7 @@ struct clsBordLinesTest : test::WireFixture {
 };
 
 TEST_F(clsBordLinesTest, EachColourAndEachOfTheirMasksIsABitmapOfItsOwn) {
-    EXPECT_TRUE(log.Lines.empty());
+    EXPECT_EQ(log.Lines, std::vector<std::string>());
     EXPECT_EQ(surface.LoadBitmap("\\images1\\LineMask.bmp"), 2 * 9 + 1);
 }
 

@@ -2,6 +2,7 @@
 
 #include "board/AppPath.h"
 #include "board/Picture.h"
+#include "tests/support/TempFolder.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -68,5 +69,10 @@ inline void writeBoardPictures(const std::filesystem::path& folder) {
             sensors.Row(y)[x] = boardColours::sensor(static_cast<std::uint32_t>(x / 48));
     writePicture(folder, "\\images2\\Sensors.bmp", sensors);
 }
+
+/// A folder with these pictures, for as long as a test lasts.
+struct PictureFolder : TempFolder {
+    PictureFolder() { writeBoardPictures(Path()); }
+};
 
 } // namespace veltrix::test

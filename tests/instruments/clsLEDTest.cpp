@@ -1,0 +1,100 @@
+#include "instruments/clsLED.h"
+
+#include "tests/support/Pictures.h"
+#include "tests/support/TestBoard.h"
+
+#include <gtest/gtest.h>
+
+namespace veltrix {
+namespace {
+
+namespace colours = test::boardColours;
+
+struct clsLEDTest : testing::Test {
+    clsLEDTest() {
+        started = surface.Start(folder.Path(), 100, 100, 1, log);
+        lamp.Constructor(surface, 20, 30);
+    }
+
+    /// Whether the lamp is seen, and only where it belongs.
+    bool seen() {
+        surface.Refresh();
+        for (std::int32_t y = 0; y < 100; ++y)
+            for (std::int32_t x = 0; x < 100; ++x) {
+                const bool inside = x >= 20 && x < 52 && y >= 30 && y < 62;
+                const bool red = surface.Frame().Row(y)[x] == colours::RedLight;
+                EXPECT_EQ(red, inside && lamp.Value()) << x << ", " << y;
+            }
+        return surface.Frame().Row(30)[20] == colours::RedLight;
+    }
+
+    test::PictureFolder folder;
+    test::KeptLog log;
+    PictorATL surface;
+    bool started = false;
+    clsLED lamp;
+};
+
+TEST_F(clsLEDTest, ANewLampIsDark) {
+    EXPECT_EQ(log.Lines, std::vector<std::string>());
+    EXPECT_FALSE(lamp.Value());
+    EXPECT_FALSE(seen());
+    EXPECT_EQ(surface.CountAll(), 0);
+}
+
+TEST_F(clsLEDTest, ALitLampShowsItsPictureAndADarkOneNothing) {
+    lamp.SetValue(true);
+    EXPECT_TRUE(lamp.Value());
+    EXPECT_TRUE(seen());
+    lamp.SetValue(false);
+    EXPECT_FALSE(lamp.Value());
+    EXPECT_FALSE(seen());
+}
+
+TEST_F(clsLEDTest, DarkTwiceInARowDrawsNothingAndDoesNotFail) {
+    lamp.SetValue(false);
+    lamp.SetValue(false);
+    EXPECT_EQ(surface.CountAll(), 0);
+    EXPECT_FALSE(seen());
+}
+
+TEST_F(clsLEDTest, LitAgainAndAgainItIsOneSpriteAndPaintsNothing) {
+    lamp.SetValue(true);
+    surface.Refresh();
+    for (int i = 0; i < 1000; ++i) {
+        lamp.SetValue(true);
+        surface.Refresh();
+        ASSERT_TRUE(surface.Changed().empty());
+        ASSERT_EQ(surface.CountAll(), 1);
+    }
+    EXPECT_TRUE(seen());
+    lamp.SetValue(false);
+    surface.Refresh();
+    EXPECT_EQ(surface.Changed(), std::vector<Rect>({{20, 30, 32, 32}}));
+}
+
+TEST_F(clsLEDTest, TheMouseLooksThroughALamp) {
+    const std::int32_t below = surface.CreateSprite(surface.LoadBitmap("\\images2\\RedLight.bmp"));
+    surface.PlaceSprite(below, 20, 30);
+    surface.SetSpriteFlags(below, spriteFlags::ReportsMouse);
+
+    struct Named : SurfaceEvents {
+        void MouseDown(std::int32_t hit, MouseButton, std::int32_t, std::int32_t) override {
+            sprite = hit;
+        }
+
+        void MouseUp(std::int32_t, MouseButton, std::int32_t, std::int32_t) override {}
+
+        void MouseMove(std::int32_t, std::int32_t, std::int32_t) override {}
+
+        std::int32_t sprite = 0;
+    } named;
+
+    surface.AddListener(named);
+    lamp.SetValue(true);
+    surface.MouseDown(MouseButton::Left, 25, 35);
+    EXPECT_EQ(named.sprite, below);
+}
+
+} // namespace
+} // namespace veltrix
