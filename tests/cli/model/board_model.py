@@ -90,7 +90,7 @@ def long(value):
     """The value as a whole 32-bit number; halves go to the even one."""
     whole = round(value)
     if not -0x80000000 <= whole <= 0x7FFFFFFF:
-        raise BoardError(f"overflow: {value}")
+        raise BoardError("overflow")
     return whole
 
 
@@ -178,6 +178,8 @@ def read(data):
     enter(SETTINGS)
     (_, count, board.counter, sensor1, sensor2, board.pulse, board.comparator,
      board.voltage) = take("<8i")
+    if count < 0:
+        raise DocumentError(f"{count} wires")
     if not 0 <= board.counter <= 9:
         raise DocumentError(f"a counter that shows {board.counter}")
     board.sensors = [sensor1, sensor2]
@@ -245,21 +247,17 @@ def report(wires):
                    for outputs in conflicts(wires))
 
 
-def unknown_names(wires):
-    """The names that are no socket, each once, in the order in which the wires bring them."""
-    return list(dict.fromkeys(name for wire in wires for name in wire if name not in KIND))
+def strangers(wires):
+    """(position of the wire, name) of each end at a place where no wire may end."""
+    return [(position, name) for position, wire in enumerate(wires, 1) for name in wire
+            if name not in CONNECTABLE]
 
 
 def repeated(wires):
-    """The positions (from 1) of the wires whose two sockets an earlier wire joins already."""
-    joined = set()
-    positions = []
-    for position, wire in enumerate(wires, 1):
-        pair = frozenset(wire)
-        if pair in joined:
-            positions.append(position)
-        joined.add(pair)
-    return positions
+    """(position, position of the first wire between the same two sockets) of each later one."""
+    first = {}
+    return [(position, first[frozenset(wire)]) for position, wire in enumerate(wires, 1)
+            if first.setdefault(frozenset(wire), position) != position]
 
 
 # --- ticks -------------------------------------------------------------------------------------
@@ -409,8 +407,8 @@ class Simulation:
         if mode == 0:
             level = 0
         elif mode == 1:
-            dx, dy = (long(at - centre) for at, centre in zip(self.pointer, spot))
-            level = long(50 - math.sqrt(float(dx) ** 2 + float(dy) ** 2) / 2)
+            dx, dy = (float(at - centre) for at, centre in zip(self.pointer, spot))
+            level = long(50 - math.sqrt(dx * dx + dy * dy) / 2)
             level = min(max(level, 0), 50)
         elif mode == 2:
             level = long(math.sin(now / 5 * 2 * 3.14) * 20 + 30)

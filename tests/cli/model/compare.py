@@ -13,9 +13,11 @@ one line and end with 2.
 """
 import argparse
 import csv
+import io
 import json
 import pathlib
 import random
+import re
 import shutil
 import struct
 import subprocess
@@ -23,7 +25,7 @@ import sys
 import tempfile
 
 import board_model
-from board_model import BoardError, Board, CONNECTABLE, DocumentError, KIND, OUTPUT, Simulation
+from board_model import Board, CONNECTABLE, DocumentError, KIND, OUTPUT, Simulation
 
 HEADER = ["tick", *CONNECTABLE, "LED 1", "LED 2", "LED 3", "LED 4", "Zoemer klinkt", "Teller"]
 SOURCES = [name for name in CONNECTABLE if KIND[name] == OUTPUT]
@@ -62,10 +64,31 @@ def circuit(rng):
     wires = []
     for target in TARGETS:
         if rng.random() < share:
-            source = rng.choice(rng.choice((TURNED, TURNED, SOURCES, SOURCES, SOURCES, CONNECTABLE)))
-            ends = [source, target]
+            kind = rng.choice((TURNED, TURNED, SOURCES, SOURCES, SOURCES, CONNECTABLE))
+            ends = [rng.choice(kind), target]
             rng.shuffle(ends)
             wires.append(tuple(ends))
+    rng.shuffle(wires)
+    return wires
+
+
+MODULES = ("OF-poort", "EN-poort", "Geheugen", "Invertor", "Comparator", "Transistor", "Relais",
+           "Pulsenteller", "AD-omzetter")
+
+
+def bench(rng):
+    """A few modules with hands on all they listen to, and lamps on what they say."""
+    lamps = [name for name in TARGETS if name.startswith("LED")] + ["Zoemer"]
+    wires = []
+    for module in rng.sample(MODULES, rng.randrange(1, 4)):
+        for name in CONNECTABLE:
+            if not name.startswith(module):
+                continue
+            if KIND[name] == OUTPUT:
+                if rng.random() < 0.3:
+                    wires.append((name, rng.choice(lamps)))
+            elif rng.random() < 0.8:
+                wires.append((rng.choice(TURNED + ["Var. Spanning Uit Geel"] * 4), name))
     rng.shuffle(wires)
     return wires
 
@@ -84,17 +107,25 @@ def crowd(rng):
 
 def make_wires(rng):
     style = rng.random()
-    if style < 0.03:
+    if style < 0.02:
         wires = []
-    elif style < 0.65:
+    elif style < 0.4:
+        wires = bench(rng)
+    elif style < 0.7:
         wires = circuit(rng)
-    elif style < 0.9:
+    elif style < 0.92:
         wires = [(any_name(rng), any_name(rng)) for _ in range(rng.randrange(1, 60))]
     else:
         wires = crowd(rng)
     if rng.random() < 0.3:
         for _ in range(rng.randrange(1, 6)):
             wires.insert(rng.randrange(len(wires) + 1), (any_name(rng), any_name(rng)))
+    if rng.random() < 0.15:
+        wires += [("Var. Spanning Uit Geel", rng.choice(TARGETS))
+                  for _ in range(rng.randrange(1, 5))]
+    if rng.random() < 0.05:
+        # Names that are no sockets lie all in one place: a wire between two of them has no bead.
+        wires += [("Var. Spanning Uit Geel", "hier"), ("hier", "daar"), ("daar", any_name(rng))]
     if wires and rng.random() < 0.2:
         again = rng.choice(wires)
         wires.insert(rng.randrange(len(wires) + 1), again if rng.random() < 0.5 else again[::-1])
@@ -109,7 +140,7 @@ def make_level(rng):
     if kind < 0.4:
         return rng.randrange(51)
     if kind < 0.8:
-        return rng.choice((0, 6, 7, 25, 35, 49, 50))
+        return rng.choice((0, 6, 7, 20, 25, 35, 49, 50))
     if kind < 0.93:
         return rng.randrange(-12, 63)
     if kind < 0.97:
@@ -136,15 +167,51 @@ def make_document(rng, board):
     for place in (44, 45):
         if data[place] == 0 and rng.random() < 0.1:
             data[place] = rng.randrange(255)
+    for place in (2, 8, 48):
+        if rng.random() < 0.05:
+            struct.pack_into("<i", data, place, rng.choice(EDGES + [0, len(data)]))
     if rng.random() < 0.1:
         data += rng.randbytes(rng.randrange(1, 200))
+    if rng.random() < 0.05:
+        # The first wires alone, or more than there are: the tail is read as names.
+        struct.pack_into("<i", data, 16, rng.randrange(len(board.wires) + 5))
+        data += b"\0" * rng.randrange(8)
+    try:
+        board_model.read(data)
+    except DocumentError:
+        return board.write()
     return bytes(data)
+
+
+def break_document(rng, data):
+    """The bytes of a document in which something is wrong or missing."""
+    while True:
+        broken = bytearray(data)
+        way = rng.randrange(6)
+        if way == 0:
+            del broken[rng.randrange(len(broken)):]
+        elif way == 1:
+            struct.pack_into("<h", broken, rng.choice((0, 6, 46)), rng.randrange(-0x8000, 0x8000))
+        elif way == 2:
+            struct.pack_into("<i", broken, 16, rng.choice(
+                (rng.randrange(0x80000000), -1, 0x7FFFFFFF, -0x80000000, len(data))))
+        elif way == 3:
+            struct.pack_into("<i", broken, 20, rng.choice((10, -1, 256, *EDGES)))
+        elif way == 4:
+            broken = bytearray(rng.randbytes(rng.randrange(300)))
+        else:
+            for _ in range(rng.randrange(1, 20)):
+                broken[rng.randrange(len(broken))] = rng.randrange(256)
+        try:
+            board_model.read(broken)
+        except DocumentError:
+            return bytes(broken)
 
 
 CONTROLS = ("Sensor 1", "Sensor 2", "Drukknop 1", "Drukknop 2", "Drukknop 1", "Drukknop 2",
             "Comparator Regelaar", "Var. Spanning Regelaar", "Var. Spanning Regelaar",
-            "Puls Generator Regelaar", "Geluids Sensor", "Pulsenteller Reset Drukknop",
-            "Aanwijzer", "Aanwijzer")
+            "Puls Generator Regelaar", "Puls Generator Regelaar", "Geluids Sensor",
+            "Pulsenteller Reset Drukknop", "Aanwijzer", "Aanwijzer")
 
 
 def make_value(rng, control):
@@ -158,7 +225,7 @@ def make_value(rng, control):
         spot = rng.choice(((44, 49), (44, 102), (207, 188)))
         reach = rng.choice((0, 3, 60, 110, 300, 70000))
         return " ".join(str(centre + rng.randint(-reach, reach)) for centre in spot)
-    return str(rng.randrange(51) if rng.random() < 0.5 else rng.choice((0, 7, 25, 49, 50)))
+    return str(rng.randrange(51) if rng.random() < 0.3 else rng.choice((0, 0, 7, 25, 49, 50, 50)))
 
 
 def make_script(rng, ticks):
@@ -193,56 +260,173 @@ class Case:
 
     def check_alike(self, ticks):
         data = make_document(self.rng, make_board(self.rng))
-        script = make_script(self.rng, ticks)
         self.document.write_bytes(data)
-        with open(self.folder / "script.csv", "w", encoding="utf-8", newline="") as file:
-            csv.writer(file, lineterminator="\n").writerows([("tick", "control", "value"), *script])
-
         self.compare_info(data)
         self.compare_check(data)
-        self.compare_run(data, script, ticks)
+        self.compare_run(data, make_script(self.rng, ticks), ticks)
+
+    def compare_info(self, data):
+        board = board_model.read(data)
+        wanted = {
+            "settings": {
+                "Teller": board.counter,
+                "Sensor 1": board.sensors[0],
+                "Sensor 2": board.sensors[1],
+                "Puls Generator Regelaar": board.pulse,
+                "Comparator Regelaar": board.comparator,
+                "Var. Spanning Regelaar": board.voltage,
+                "Drukknop 1": int(board.buttons[0]),
+                "Drukknop 2": int(board.buttons[1]),
+            },
+            "wires": [{"naam1": first, "naam2": second} for first, second in board.wires],
+        }
+        found = json.loads(self.start_well("info", self.document).stdout)
+        compare_lists("info, settings", list(found["settings"].items()),
+                      list(wanted["settings"].items()))
+        compare_lists("info, wires", found["wires"], wanted["wires"])
+
+    def compare_check(self, data):
+        wires = board_model.read(data).wires
+        lines = ["outputs wired together: " + line
+                 for line in board_model.report(wires).split("\r\n")[:-1]]
+        lines += [f'wire {position}: unknown socket "{shown(name)}"'
+                  for position, name in board_model.strangers(wires)]
+        for position, first in board_model.repeated(wires):
+            one, other = map(shown, wires[position - 1])
+            lines.append(f'wire {position}: duplicate of wire {first}, "{one}" to "{other}"')
+        done = self.start_well("check", self.document, status=1 if lines else 0)
+        compare_lists("check", done.stdout.decode().split("\n")[:-1], lines)
 
     def compare_run(self, data, script, ticks):
-        out, saved = self.folder / "out.csv", self.folder / "saved.vtx"
-        self.start_well("run", self.document, "--ticks", ticks, "--script",
-                        self.folder / "script.csv", "--format", "csv", "--rows", "all", "--out",
-                        out, "--save", saved)
-
+        script_path = self.folder / "script.csv"
+        write_csv(script_path, [("tick", "control", "value"), *script])
         simulation = Simulation(board_model.read(data))
-        rows = []
+        wanted = []
+        faults = []
+        fault = None
         for tick in range(1, ticks + 1):
             for at, control, value in script:
                 if at == tick:
                     simulation.control(control, value)
             simulation.tick()
-            rows.append(simulation.row())
-        expected = self.folder / "expected.csv"
-        with open(expected, "w", encoding="utf-8", newline="") as file:
-            csv.writer(file, lineterminator="\n").writerows([HEADER, *rows])
-        expected_saved = simulation.board.write()
-        (self.folder / "expected.vtx").write_bytes(expected_saved)
+            wanted.append(simulation.row())
+            if simulation.fault and simulation.fault != fault:
+                faults.append(f"veltrix-cli: {self.document}: tick {tick}")
+            fault = simulation.fault
+        write_csv(self.folder / "expected.csv", [HEADER, *wanted])
+        saved = simulation.board.write()
+        (self.folder / "expected.vtx").write_bytes(saved)
 
-        with open(out, encoding="utf-8", newline="") as file:
-            found = list(csv.reader(file))
-        if not found or found[0] != HEADER:
-            raise Difference(f"the columns are {found[:1]} instead of {HEADER}")
-        for row, wanted in zip(found[1:], rows):
-            for column, name in enumerate(HEADER):
-                cell = row[column] if column < len(row) else None
-                if cell != wanted[column]:
-                    raise Difference(f"tick {wanted[0]}, {name}: the program says {cell!r}, "
-                                     f"the model {wanted[column]!r}")
-            if len(row) != len(HEADER):
-                raise Difference(f"tick {wanted[0]}: {len(row)} cells in {len(HEADER)} columns")
-        if len(found) - 1 != len(rows):
-            raise Difference(f"{len(found) - 1} rows for {len(rows)} ticks")
-        compare_bytes("saved document", saved.read_bytes(), expected_saved)
+        done = self.run_rows(script_path, ticks, "csv", "all", wanted)
+        compare_bytes("saved document", (self.folder / "saved.vtx").read_bytes(), saved)
+        told = [": ".join(line.split(": ")[:3]) for line in done.stderr.decode().split("\n")[:-1]]
+        compare_lists("abandoned ticks", told, faults)
 
-    def compare_info(self, data):
-        pass
+        self.run_rows(script_path, ticks, self.rng.choice(("csv", "json", "vcd")),
+                      self.rng.choice(("all", "changes", "last")), wanted)
 
-    def compare_check(self, data):
-        pass
+    def run_rows(self, script, ticks, form, which, wanted):
+        out = self.folder / f"{which}.{form}"
+        done = self.start_well("run", self.document, "--ticks", ticks, "--script", script,
+                               "--format", form, "--rows", which, "--out", out, "--save",
+                               self.folder / "saved.vtx")
+        if which == "last":
+            wanted = wanted[-1:]
+        elif which == "changes":
+            wanted = wanted[:1] + [row for before, row in zip(wanted, wanted[1:])
+                                   if row[1:] != before[1:]]
+        text = out.read_bytes().decode()
+        found = {"csv": rows_of_csv, "json": rows_of_json, "vcd": rows_of_vcd}[form](text)
+        for row, row_wanted in zip(found, wanted):
+            for name, cell, cell_wanted in zip(HEADER, row, row_wanted):
+                if cell != cell_wanted:
+                    raise Difference(f"{form}, {which}: tick {row_wanted[0]}, {name}: {cell!r} by "
+                                     f"the program, {cell_wanted!r} by the model")
+        compare_lists(f"{form}, {which}: ticks", [row[0] for row in found],
+                      [row[0] for row in wanted])
+        return done
+
+    def check_broken(self):
+        self.document.write_bytes(break_document(self.rng, make_board(self.rng).write()))
+        out, saved = self.folder / "out", self.folder / "saved.vtx"
+        for arguments in (("run", "--ticks", "3", "--out", out, "--save", saved), ("info",),
+                          ("check",), ("render", "--out", out)):
+            done = self.start_well(*arguments, self.document, status=2)
+            if done.stdout or out.exists() or saved.exists():
+                raise Difference(f"{arguments[0]} left something behind")
+            errors = done.stderr.decode()
+            if errors.count("\n") != 1 or not errors.endswith("\n") \
+                    or not errors.startswith(f"veltrix-cli: {self.document}: "):
+                raise Difference(f"{arguments[0]} says {errors!r} instead of one line")
+
+
+def shown(name):
+    """A name as check writes it: on one line, whatever is in it."""
+    return "".join(f"\\x{ord(character):02X}" if ord(character) < 0x20 or character == "\x7f"
+                   else character for character in name)
+
+
+def write_csv(path, rows):
+    with open(path, "w", encoding="utf-8", newline="") as file:
+        csv.writer(file, lineterminator="\n").writerows(rows)
+
+
+def rows_of_csv(text):
+    rows = list(csv.reader(io.StringIO(text, newline="")))
+    if not rows or rows[0] != HEADER:
+        raise Difference(f"csv: the columns are {rows[:1]} instead of {HEADER}")
+    for row in rows:
+        if len(row) != len(HEADER):
+            raise Difference(f"csv: {len(row)} cells in {len(HEADER)} columns: {row}")
+    return rows[1:]
+
+
+def rows_of_json(text):
+    rows = []
+    for row in json.loads(text):
+        if list(row) != HEADER:
+            raise Difference(f"json: the members are {list(row)} instead of {HEADER}")
+        rows.append(["" if cell is None else str(cell) for cell in row.values()])
+    return rows
+
+
+def rows_of_vcd(text):
+    """One row for each point of time, with the cells that are not named carried over."""
+    head, body = text.split("$enddefinitions $end\n")
+    variables = [line.split() for line in head.split("\n") if line.startswith("$var ")]
+    names = [re.sub("[^A-Za-z0-9]+", "_", name).strip("_") for name in HEADER[1:]]
+    compare_lists("vcd: variables", [variable[4] for variable in variables], names)
+    column = {variable[3]: number for number, variable in enumerate(variables, 1)}
+    width = {variable[3]: int(variable[2]) for variable in variables}
+    if len(column) != len(names):
+        raise Difference("vcd: two variables have one letter")
+    row = [""] * len(HEADER)
+    rows = []
+    for line in body.split("\n")[:-1]:
+        if line.startswith("#"):
+            row = [line[1:], *row[1:]]
+            rows.append(row)
+        elif line[0] in "01b":
+            bits, letter = line[1:].split() if line[0] == "b" else (line[0], line[1:])
+            if bits == "x":
+                row[column[letter]] = ""
+                continue
+            value = int(bits, 2)
+            if len(bits) != width[letter]:
+                raise Difference(f"vcd: {bits} for a variable of {width[letter]} bits")
+            row[column[letter]] = str(value - (1 << 32) if value >> 31 else value)
+        elif line not in ("$dumpvars", "$end"):
+            raise Difference(f"vcd: a line {line!r}")
+    return rows
+
+
+def compare_lists(what, found, wanted):
+    for number, (one, other) in enumerate(zip(found, wanted), 1):
+        if one != other:
+            raise Difference(f"{what}, {number}: {one!r} by the program, {other!r} by the model")
+    if len(found) != len(wanted):
+        longer, by = (found, "program") if len(found) > len(wanted) else (wanted, "model")
+        raise Difference(f"{what}: only by the {by}: {longer[min(len(found), len(wanted))]!r}")
 
 
 def compare_bytes(what, found, wanted):
@@ -265,11 +449,14 @@ def main():
 
     program = options.program.resolve()
     for number in range(options.seed, options.seed + options.count):
-        folder = pathlib.Path(tempfile.mkdtemp(prefix=f"veltrix-{number}-"))
+        folder = pathlib.Path(tempfile.mkdtemp(prefix=f"veltrix-model-{number}-"))
         case = Case(number, program, folder)
         try:
-            case.check_alike(options.ticks)
-        except (Difference, OSError, subprocess.TimeoutExpired) as difference:
+            if options.broken:
+                case.check_broken()
+            else:
+                case.check_alike(options.ticks)
+        except (Difference, OSError, ValueError, subprocess.TimeoutExpired) as difference:
             print(f"FAIL: case {number} ({options.ticks} ticks): {difference}\nfiles: {folder}")
             return 1
         shutil.rmtree(folder)

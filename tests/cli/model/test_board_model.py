@@ -333,8 +333,11 @@ class Conflicts(unittest.TestCase):
     def test_names_and_repetitions(self):
         wires = [("Zoemer", "elders"), ("zoemer", "Zoemer"), ("elders", "Zoemer"),
                  ("Zoemer", "elders")]
-        self.assertEqual(board_model.unknown_names(wires), ["elders", "zoemer"])
-        self.assertEqual(board_model.repeated(wires), [3, 4])
+        self.assertEqual(board_model.strangers(wires), [(1, "elders"), (2, "zoemer"),
+                                                        (3, "elders"), (4, "elders")])
+        self.assertEqual(board_model.strangers([("Drukknop 1", "Zoemer")]), [(1, "Drukknop 1")])
+        self.assertEqual(board_model.repeated(wires), [(3, 1), (4, 1)])
+        self.assertEqual(board_model.repeated([("a", "a"), ("a", "b"), ("a", "a")]), [(3, 1)])
 
 
 class Documents(unittest.TestCase):
@@ -377,7 +380,7 @@ class Documents(unittest.TestCase):
         for end in range(len(data)):
             with self.subTest(end=end), self.assertRaises(DocumentError):
                 board_model.read(data[:end])
-        for place, byte in ((0, 0), (6, 1), (46, 1), (20, 10), (16, 2)):
+        for place, byte in ((0, 0), (6, 1), (46, 1), (20, 10), (16, 2), (19, 255)):
             broken = bytearray(data)
             broken[place] = byte
             with self.subTest(place=place), self.assertRaises(DocumentError):
