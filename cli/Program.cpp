@@ -163,7 +163,9 @@ public:
         } catch (const CLI::ParseError& error) {
             throw Fault(error.what());
         }
-        const std::vector<std::string> unknown = app_.remaining(true);
+        std::vector<std::string> unknown = app_.remaining(true);
+        // The mark that ends the options counts as left over.
+        unknown.erase(std::remove(unknown.begin(), unknown.end(), "--"), unknown.end());
         if (app_.get_subcommands().empty())
             throw unknown.empty()
                 ? Fault(std::string("a command is missing; ") + commands)
