@@ -40,7 +40,8 @@ std::uint32_t hold(std::string_view text) {
         id = static_cast<std::uint32_t>(t.entries.size());
         t.entries.emplace_back();
         // Room for every number, so that release(), which may not fail, need not ask for memory.
-        t.unused.reserve(t.entries.size());
+        if (t.unused.capacity() < t.entries.size())
+            t.unused.reserve(2 * t.entries.size());
     } else {
         id = t.unused.back();
         t.unused.pop_back();
