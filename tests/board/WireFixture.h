@@ -34,13 +34,13 @@ inline std::ostream& operator<<(std::ostream& out, const Bead& bead) {
 struct WireFixture : testing::Test {
     WireFixture() {
         for (std::int32_t colour = 1; colour <= 9; ++colour) {
-            Picture strip = plain(1024, 32, 0);
+            Picture strip = plain(1024, 1, 0);
             for (std::int32_t n = 0; n < 32; ++n)
                 strip.Row(0)[32 * n] = 0xFF000000U | static_cast<std::uint32_t>(colour) << 16 |
                                        static_cast<std::uint32_t>(n) << 8 | 0xFFU;
             writePicture(folder.Path(), "\\images1\\Line" + std::to_string(colour) + ".bmp", strip);
         }
-        writePicture(folder.Path(), "\\images1\\LineMask.bmp", plain(1024, 32, 0xFFFFFFFF));
+        writePicture(folder.Path(), "\\images1\\LineMask.bmp", plain(1024, 1, 0xFFFFFFFF));
         started = surface.Start(folder.Path(), 415, 376, 1, log);
         bordLines.Constructor(surface);
     }

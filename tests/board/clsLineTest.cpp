@@ -127,11 +127,11 @@ TEST_F(clsLineTest, WiresLieAboveLevelSevenAndBelowLevelNine) {
         surface.LoadBitmap("\\images1\\LineMask.bmp"); // white, which no bead is
     line->SetAll(100, 100, 110, 100, 3);
     const std::int32_t sprite = surface.CreateSprite(picture);
+    surface.PlaceSprite(sprite, 0, 84);
     surface.SetLevel(sprite, 7);
     surface.Refresh();
     EXPECT_NE(surface.Frame().Row(84)[89], 0xFFFFFFFF);
     surface.SetLevel(sprite, 9);
-    surface.PlaceSprite(sprite, 0, 80);
     surface.Refresh();
     EXPECT_EQ(surface.Frame().Row(84)[89], 0xFFFFFFFF);
 }
@@ -156,7 +156,7 @@ TEST_F(clsLineTest, ARecolouredWireIsPaintedWithinItsOwnRectangle) {
     surface.Refresh();
     other->SetColor(4);
     surface.Refresh();
-    EXPECT_EQ(surface.Changed(), std::vector<Rect>({{205 - 16, 200 - 16, 50 + 32, 32}}));
+    EXPECT_EQ(surface.Changed(), std::vector<Rect>({{205 - 16, 200 - 16, 50 + 32, 1}}));
 }
 
 TEST_F(clsLineTest, AWireDrawnAgainAlikePaintsNothing) {

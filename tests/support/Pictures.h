@@ -4,8 +4,10 @@
 #include "board/Picture.h"
 #include "tests/support/TempFolder.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <filesystem>
+#include <fstream>
 #include <string>
 
 namespace veltrix::test {
@@ -18,13 +20,45 @@ inline Picture plain(std::int32_t width, std::int32_t height, std::uint32_t colo
     return picture;
 }
 
-/// Puts a picture where the program looks for `name` ("\\images2\\Bord.bmp"). Its content is a PNG
-/// whatever the name says, since pictures are told apart by their content.
+/// A BMP of 24 bits a pixel, for opaque pictures: far quicker to write than a PNG.
+inline void writeBmp(const Picture& picture, const std::filesystem::path& file) {
+    constexpr std::uint32_t headers = 54;
+    const std::int32_t rowSize = (picture.width * 3 + 3) / 4 * 4;
+    const auto size = headers + static_cast<std::uint32_t>(rowSize * picture.height);
+    std::string bytes = "BM";
+    const auto put = [&](std::uint32_t number, int count) {
+        for (; count > 0; --count, number >>= 8)
+            bytes.push_back(static_cast<char>(number & 0xFF));
+    };
+    put(size, 4);
+    put(0, 4);
+    put(headers, 4);
+    put(headers - 14, 4);
+    put(static_cast<std::uint32_t>(picture.width), 4);
+    put(static_cast<std::uint32_t>(picture.height), 4);
+    put(1, 2);
+    put(24, 2);
+    put(0, 24);
+    for (std::int32_t y = picture.height - 1; y >= 0; --y) {
+        for (std::int32_t x = 0; x < picture.width; ++x)
+            put(picture.Row(y)[x], 3);
+        put(0, rowSize - picture.width * 3);
+    }
+    std::ofstream(file, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(size));
+}
+
+/// Puts a picture where the program looks for `name` ("\\images2\\Bord.bmp"). One that is not
+/// opaque becomes a PNG whatever the name says, since pictures are told apart by their content.
 inline void writePicture(const std::filesystem::path& folder, const std::string& name,
                          const Picture& picture) {
     const std::filesystem::path file = AppPath(folder, name);
     std::filesystem::create_directories(file.parent_path());
-    WritePng(picture, file);
+    const bool opaque = std::all_of(picture.pixels.begin(), picture.pixels.end(),
+                                    [](std::uint32_t pixel) { return pixel >> 24 == 0xFF; });
+    if (opaque)
+        writeBmp(picture, file);
+    else
+        WritePng(picture, file);
 }
 
 /// Every picture that a board loads, as large as the real ones but each in one colour of its own,
