@@ -11,10 +11,18 @@
 
 namespace veltrix::cli {
 
-void ReadBoard(const std::string& path, Board& board) {
+void RequireDocument(const std::string& path) {
     try {
         if (const std::optional<std::string> fault = FindDocumentFault(path))
             throw Fault(path, *fault);
+    } catch (const std::system_error& error) {
+        throw Fault(path, error.code().message());
+    }
+}
+
+void ReadBoard(const std::string& path, Board& board) {
+    RequireDocument(path);
+    try {
         clsKorvelRFile file;
         file.OpenFile(path);
         ReadFrom(board, file);

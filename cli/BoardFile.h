@@ -6,6 +6,9 @@
 
 namespace veltrix::cli {
 
+/// Throws Fault when the file cannot be read or is no whole document.
+void RequireDocument(const std::string& path);
+
 /// Reads a board document. Throws Fault when the file cannot be read or is no whole document; the
 /// board is as it was then.
 void ReadBoard(const std::string& path, Board& board);

@@ -34,6 +34,8 @@ private:
 } // namespace
 
 void RenderCommand::Execute(std::ostream& errors) const {
+    // First, so that what is wrong with the board does not stand below a list of missing pictures.
+    RequireDocument(BoardPath);
     StreamLog log(errors);
     Simulation simulation(ApplicationFolder, Scale, log);
     ReadBoard(BoardPath, simulation.TheBoard());

@@ -74,6 +74,14 @@ TEST_F(RenderCommandOf, MissingPictureIsToldButNoFailure) {
     EXPECT_EQ(led1(), test::boardColours::RedLight);
 }
 
+TEST_F(RenderCommandOf, FaultyBoardIsToldBeforePicturesAreMissed) {
+    board = files.Add("leeg.vtx", "");
+    const test::Outcome outcome =
+        test::cli({"render", board, "--out", picture}, "no-pictures-here");
+    EXPECT_EQ(outcome.code, 2);
+    EXPECT_EQ(outcome.errors, "veltrix-cli: " + board + ": the file is empty\n");
+}
+
 TEST_F(RenderCommandOf, PictureThatCannotBeWrittenIsAFault) {
     for (const std::string& path : {files.Path("weg/b.png"), std::string("/dev/full")}) {
         picture = path;
