@@ -1,5 +1,6 @@
 #include "app/qt/QtSound.h"
 
+#include <QCoreApplication>
 #include <QDeadlineTimer>
 
 #include <algorithm>
@@ -11,6 +12,18 @@ namespace {
 
 constexpr int supervisionInterval = 1000; // ms
 constexpr int patienceAtExit = 700;       // ms
+
+QtMessageHandler messagesOfOthers = nullptr;
+
+/// What goes wrong with the sound is told in one line of the log. The library behind it tells the
+/// same in many, some of them twenty times a second, and all from the threads of the sound.
+void dropLibraryMessages(QtMsgType type, const QMessageLogContext& context, const QString& line) {
+    const auto* application = QCoreApplication::instance();
+    const bool ofSound =
+        application != nullptr && QThread::currentThread() != application->thread();
+    if (type == QtFatalMsg || !ofSound)
+        messagesOfOthers(type, context, line);
+}
 
 } // namespace
 
@@ -95,12 +108,15 @@ void QtSound::replaceHangingWorker() {
     const auto input = inputs_->TakeHanging();
     if (!input)
         return;
-    log_.Write("sound: input " + inputs_->Name(*input) + " does not open");
+    if (inputs_->SetFailed(*input, true))
+        log_.Write("sound: input " + inputs_->Name(*input) + " does not open");
     worker_->Abandon();
     startWorker();
 }
 
 std::unique_ptr<Sound> MakeSound(const std::filesystem::path& applicationFolder, Log& log) {
+    if (messagesOfOthers == nullptr)
+        messagesOfOthers = qInstallMessageHandler(dropLibraryMessages);
     return std::make_unique<QtSound>(applicationFolder, log);
 }
 
