@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::size_t directions = 32;
 constexpr std::int32_t beadSize = 32;
+constexpr std::int32_t beadHalf = beadSize / 2;
 constexpr double beadSpacing = 10;
 
 struct Vector {
@@ -77,13 +78,13 @@ void clsBordLines::DrawLine(std::int32_t GroupLID, std::int32_t X1, std::int32_t
     const double dy = CheckedSubtract(Y2, Y1);
     const double length = std::sqrt(dx * dx + dy * dy);
     const std::int32_t direction = nearestDirection(dx / length, dy / length);
-    const double beads = std::trunc(length / beadSpacing);
-    for (double k = 0.5; k <= beads; ++k) {
+    const auto beads = static_cast<std::int64_t>(length / beadSpacing);
+    for (std::int64_t i = 0; i < beads; ++i) {
         const std::size_t color = pictureOf(ColorNr);
         const std::int32_t bead = mag_->CreateMaskedSprite(bitmaps_[color], masks_[color]);
-        const double t = k / beads;
-        mag_->PlaceSprite(bead, RoundToLong(t * dx + X1 - beadSize / 2),
-                          RoundToLong(t * dy + Y1 - beadSize / 2));
+        const double t = (static_cast<double>(i) + 0.5) / static_cast<double>(beads);
+        mag_->PlaceSprite(bead, RoundToLong(t * dx + X1 - beadHalf),
+                          RoundToLong(t * dy + Y1 - beadHalf));
         mag_->AddToGroup(bead, GroupLID);
         mag_->SetSpriteSize(bead, beadSize, beadSize);
         mag_->SetSpriteSource(bead, beadSize * direction, 0);

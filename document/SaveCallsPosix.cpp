@@ -60,6 +60,12 @@ bool lock(int file) {
     return uninterrupted([file] { return ::flock(file, LOCK_EX | LOCK_NB); }) == 0;
 }
 
+/// Makes a new file one that no other save takes for abandoned. False when one has just done so; on
+/// a system that has no locks nothing is ever taken for abandoned.
+bool claim(int file) {
+    return (lock(file) || errno != EWOULDBLOCK) && factsOf(file).st_nlink != 0;
+}
+
 /// Removes what a killed save left. False when it belongs to a save that runs, or to nobody who
 /// could be asked.
 bool removeAbandoned(const std::filesystem::path& path) {
@@ -169,14 +175,11 @@ public:
                 return std::nullopt;
             fail();
         }
-        // Without a lock another save may have taken the file for an abandoned one. On a system
-        // that has no locks nothing is ever taken for abandoned.
-        const bool taken = !lock(file) && errno == EWOULDBLOCK;
-        if (taken || !isNamed(file, path)) {
-            ::close(file);
-            return std::nullopt;
-        }
         try {
+            if (!claim(file)) {
+                ::close(file);
+                return std::nullopt;
+            }
             if (like)
                 copyRights(descriptor(*like), file);
         } catch (...) {

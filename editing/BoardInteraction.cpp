@@ -49,7 +49,7 @@ void BoardInteraction::MouseMove(std::int32_t sprite, std::int32_t x, std::int32
     if (mode_ == EditMode::RemoveWires) {
         const clsLine* marked = nearest(x, y);
         for (const auto& line : board_.Lines)
-            line->SetHighlight(line.get() == marked);
+            line->SetHighlight(marked != nullptr && line.get() == marked);
         return;
     }
     pointer_ = {x, y};

@@ -57,7 +57,7 @@ void BoardWidget::paintEvent(QPaintEvent* event) {
     if (frame.Empty())
         return;
     QImage image(reinterpret_cast<const uchar*>(frame.pixels.data()), frame.width, frame.height,
-                 frame.width * 4, QImage::Format_RGB32);
+                 qsizetype{frame.width} * 4, QImage::Format_RGB32);
     image.setDevicePixelRatio(form_->Pictor1.Scale());
     QPainter painter(this);
     painter.setClipRegion(event->region());
