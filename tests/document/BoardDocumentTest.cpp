@@ -415,7 +415,7 @@ void expectSafe(Board& board, const std::string& bytes) {
 
 TEST(BoardDocument, RandomBytesAreReadSafely) {
     TestBoard test;
-    std::mt19937 random(20260131); // NOLINT(cert-msc51-cpp): the same bytes in every run
+    std::mt19937 random(20260131); // the same bytes in every run
     for (int file = 0; file < 500; ++file) {
         std::string bytes(random() % 300, '\0');
         for (char& byte : bytes)
@@ -433,7 +433,7 @@ TEST(BoardDocument, DamagedDocumentsAreReadSafely) {
     addThreeWires(source.board);
     const std::string whole = documentOf(source.board);
     TestBoard test;
-    std::mt19937 random(20260201); // NOLINT(cert-msc51-cpp): the same bytes in every run
+    std::mt19937 random(20260201); // the same bytes in every run
     for (int file = 0; file < 1000; ++file) {
         std::string bytes = whole;
         for (int times = 0; times <= file % 4; ++times)

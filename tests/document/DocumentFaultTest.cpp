@@ -130,7 +130,7 @@ TEST(DocumentFault, AFileCutOffSaysInWhat) {
 
 TEST(DocumentFault, WhatHasNoFaultIsReadAndWrittenBackAsItWas) {
     const std::string whole = twoWires();
-    std::mt19937 random(20260202); // NOLINT(cert-msc51-cpp): the same bytes in every run
+    std::mt19937 random(20260202); // the same bytes in every run
     int without = 0;
     TestBoard test;
     for (int file = 0; file < 500; ++file) {
