@@ -14,6 +14,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace veltrix::test {
@@ -176,6 +177,9 @@ struct MemoryDesktop {
 
     /// With the board's pictures, so that the knob can be hit.
     explicit MemoryDesktop(const std::filesystem::path& pictures) { program.folder = pictures; }
+
+    /// On a computer with sound inputs.
+    explicit MemoryDesktop(std::vector<FakeInputs::Input> inputs) : sound(std::move(inputs)) {}
 
     FakeWindow window;
     FakeProgram program;
