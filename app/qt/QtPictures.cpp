@@ -20,6 +20,16 @@ QPixmap LoadPixmap(const std::filesystem::path& applicationFolder, const std::st
     return picture;
 }
 
+QIcon LoadIcon(const std::filesystem::path& applicationFolder, const std::string& name,
+               std::initializer_list<int> sizes) {
+    QIcon icon;
+    for (const int size : sizes)
+        icon.addFile(QString::fromStdString(Utf8FromPath(
+                         AppPath(applicationFolder, name + "-" + std::to_string(size) + ".png"))),
+                     QSize(size, size));
+    return icon;
+}
+
 void CentreOnScreen(QWidget& window) {
     const QRect screen = window.screen()->availableGeometry();
     window.move(screen.center() - QRect(QPoint(0, 0), window.frameGeometry().size()).center());
