@@ -11,13 +11,32 @@
 #include <map>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 namespace veltrix::cli {
 
 namespace {
 
-using Findings = std::vector<std::string>;
+/// Writes a line for everything found, and knows whether there was anything.
+class Findings {
+public:
+    explicit Findings(std::ostream& stream) : to_(stream, "standard output") {}
+
+    void Add(const std::string& finding) {
+        to_.Put(finding);
+        to_.Put('\n');
+        any_ = true;
+    }
+
+    /// Comes last. Whether there was anything to add.
+    bool Close() {
+        to_.Close();
+        return any_;
+    }
+
+private:
+    Output to_;
+    bool any_ = false;
+};
 
 /// Sockets that wires join although each is an output.
 void findConflicts(const Board& board, Findings& findings) {
@@ -25,7 +44,7 @@ void findConflicts(const Board& board, Findings& findings) {
     constexpr std::string_view lineEnd = "\r\n";
     for (std::size_t begin = 0; begin < report.size();) {
         const std::size_t end = report.find(lineEnd, begin);
-        findings.push_back("outputs wired together: " + report.substr(begin, end - begin));
+        findings.Add("outputs wired together: " + report.substr(begin, end - begin));
         begin = end + lineEnd.size();
     }
 }
@@ -37,8 +56,8 @@ void findUnknownSockets(const Board& board, Findings& findings) {
         ++number;
         for (const SocketName* name : {&line->naam1, &line->naam2})
             if (board.Snaps.GetConnectablebyName(*name) == 0)
-                findings.push_back("wire " + std::to_string(number) + ": unknown socket " +
-                                   Quoted(name->Text()));
+                findings.Add("wire " + std::to_string(number) + ": unknown socket " +
+                             Quoted(name->Text()));
     }
 }
 
@@ -51,9 +70,9 @@ void findDuplicates(const Board& board, Findings& findings) {
         const auto ends = std::minmax({line->naam1.Id(), line->naam2.Id()});
         const auto [earlier, isFirst] = first.emplace(ends, number);
         if (!isFirst)
-            findings.push_back("wire " + std::to_string(number) + ": duplicate of wire " +
-                               std::to_string(earlier->second) + ", " + Quoted(line->naam1.Text()) +
-                               " to " + Quoted(line->naam2.Text()));
+            findings.Add("wire " + std::to_string(number) + ": duplicate of wire " +
+                         std::to_string(earlier->second) + ", " + Quoted(line->naam1.Text()) +
+                         " to " + Quoted(line->naam2.Text()));
     }
 }
 
@@ -64,18 +83,11 @@ bool CheckCommand::Execute(std::ostream& output) const {
     Simulation simulation({}, 1, log);
     ReadBoard(BoardPath, simulation.TheBoard());
 
-    Findings findings;
+    Findings findings(output);
     findConflicts(simulation.TheBoard(), findings);
     findUnknownSockets(simulation.TheBoard(), findings);
     findDuplicates(simulation.TheBoard(), findings);
-
-    Output to(output, "standard output");
-    for (const std::string& finding : findings) {
-        to.Put(finding);
-        to.Put('\n');
-    }
-    to.Close();
-    return findings.empty();
+    return !findings.Close();
 }
 
 } // namespace veltrix::cli

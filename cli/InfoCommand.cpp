@@ -7,16 +7,16 @@
 
 #include <nlohmann/json.hpp>
 
+#include <utility>
+
 namespace veltrix::cli {
 
-void InfoCommand::Execute(std::ostream& output) const {
-    SilentLog log;
-    Simulation simulation({}, 1, log);
-    const Board& board = simulation.TheBoard();
-    ReadBoard(BoardPath, simulation.TheBoard());
+namespace {
 
-    // The names are those of a script's controls and of a run's columns.
-    using Json = nlohmann::ordered_json;
+using Json = nlohmann::ordered_json;
+
+/// By the names of a script's controls and of a run's columns.
+Json settingsOf(const Board& board) {
     Json settings;
     settings["Teller"] = board.Display.Value();
     settings["Sensor 1"] = board.Sensors[0].Value();
@@ -26,13 +26,28 @@ void InfoCommand::Execute(std::ostream& output) const {
     settings["Var. Spanning Regelaar"] = board.Knobs.VariableVoltage;
     settings["Drukknop 1"] = board.PushButtons[0].Value() ? 1 : 0;
     settings["Drukknop 2"] = board.PushButtons[1].Value() ? 1 : 0;
-    Json wires = Json::array();
-    for (const auto& line : board.Lines)
-        wires.push_back({{"naam1", line->naam1.Text()}, {"naam2", line->naam2.Text()}});
+    return settings;
+}
 
+} // namespace
+
+void InfoCommand::Execute(std::ostream& output) const {
+    SilentLog log;
+    Simulation simulation({}, 1, log);
+    const Board& board = simulation.TheBoard();
+    ReadBoard(BoardPath, simulation.TheBoard());
+
+    // Wire by wire: a tree of a large document would take many times its size.
     Output to(output, "standard output");
-    to.Put(Json{{"settings", settings}, {"wires", wires}}.dump(2));
-    to.Put('\n');
+    to.Put("{\n\"settings\": ");
+    to.Put(settingsOf(board).dump(2));
+    to.Put(",\n\"wires\": [");
+    const char* separator = "\n";
+    for (const auto& line : board.Lines) {
+        to.Put(std::exchange(separator, ",\n"));
+        to.Put(Json{{"naam1", line->naam1.Text()}, {"naam2", line->naam2.Text()}}.dump());
+    }
+    to.Put("\n]\n}\n");
     to.Close();
 }
 
