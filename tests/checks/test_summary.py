@@ -29,7 +29,7 @@ class Summary(PlantedTree):
         self.assert_fails(result)
         self.assertEqual(self.last_line(result), "1 passed, 1 failed")
 
-    def test_skipped_test_counts_as_neither_unless_skipping_is_forbidden(self):
+    def test_skipped_test_counts_as_neither_unless_it_must_run(self):
         tests = ('add_test(one true)\nadd_test(two sh -c "exit 77")\n'
                  "set_tests_properties(two PROPERTIES SKIP_RETURN_CODE 77)\n"
                  'add_test(three echo "[  SKIPPED ]")\n'
@@ -37,7 +37,13 @@ class Summary(PlantedTree):
         result = self.summary(tests)
         self.assert_passes(result, "skipped: two\nskipped: three\n")
         self.assertEqual(self.last_line(result), "1 passed, 0 failed")
-        self.assert_fails(self.summary(tests, "--no-skips"))
+        self.assert_fails(self.summary(tests, "--must-run", "^t"), "must run here: two",
+                          "must run here: three")
+        self.assert_passes(self.summary(tests, "--must-run", "^o"))
+
+    def test_test_that_must_run_must_be_there(self):
+        self.assert_fails(self.summary("add_test(one true)\n", "--must-run", "sound"),
+                          "no test ran whose name matches sound")
 
     def test_no_test_at_all_is_no_success(self):
         self.assert_fails(self.summary(""), "no test ran")
