@@ -310,9 +310,11 @@ class Case:
                     simulation.control(control, value)
             simulation.tick()
             wanted.append(simulation.row())
+            # Good ticks in between do not make a fault a new one: else a board that fails every
+            # second tick would be told of fifty times a second.
             if simulation.fault and simulation.fault != fault:
                 faults.append(f"veltrix-cli: {self.document}: tick {tick}")
-            fault = simulation.fault
+                fault = simulation.fault
         write_csv(self.folder / "expected.csv", [HEADER, *wanted])
         saved = simulation.board.write()
         (self.folder / "expected.vtx").write_bytes(saved)
