@@ -1,5 +1,9 @@
 #pragma once
 
+#include "app/FileTypes.h"
+#include "app/Shell.h"
+#include "app/frmAbout.h"
+#include "app/frmHelp.h"
 #include "app/frmWaveInputs.h"
 #include "app/modControlPanel.h"
 #include "board/Log.h"
@@ -63,6 +67,10 @@ struct Desktop {
     Settings& TheSettings;
     WaveInputsViews& WaveInputs;
     ProgramStart& Programs;
+    AboutViews& AboutWindows;
+    HelpViews& HelpWindows;
+    Shell& TheShell;
+    FileTypes& TheFileTypes;
     SoundPlayer& Player;
     Log& TheLog;
 };

@@ -11,7 +11,9 @@ FORM1::FORM1(const Desktop& desktop)
       interaction_(board_, cursor_, looseWire_, undo_, desktop.ModeMenu, desktop.Messages),
       files_(board_, undo_, desktop.Window, desktop.CommonDialog1, desktop.Messages, *this),
       tick_({Pictor1, board_, graph_, desktop.TheClock, desktop.ThePointer, UCWaveIn1,
-             desktop.Player, desktop.Timer1, interaction_}) {}
+             desktop.Player, desktop.Timer1, interaction_}),
+      webPages_(desktop.TheShell, desktop.Messages),
+      help_(desktop.HelpWindows, desktop.Messages, webPages_, desktop.TheProgram.Folder()) {}
 
 void FORM1::Form_Load() {
     desktop_.Window.ShowSplash();
@@ -30,6 +32,7 @@ void FORM1::Form_Load() {
     Pictor1.Refresh();
     desktop_.Window.UnloadSplash();
     desktop_.Window.Show();
+    desktop_.TheFileTypes.RegisterFileType();
 
     // A document that cannot be read must not keep the board from starting.
     std::exception_ptr unreadable;
@@ -48,6 +51,24 @@ void FORM1::mnuGeluidSensor_Click() {
     frmWaveInputs dialog(desktop_.WaveInputs.Create(), desktop_.Programs);
     dialog.Constructor(UCWaveIn1);
     dialog.Show();
+}
+
+void FORM1::mnuHelpInfo_Click() {
+    frmAbout(desktop_.AboutWindows.Create()).Show();
+}
+
+void FORM1::mnuUitleg_Click() {
+    help_.Show(); // makes the browser, which has to be there before it can go anywhere
+    help_.Constructor("NL");
+}
+
+void FORM1::mnuHelpAbout_Click() {
+    const std::string address = WebAddress;
+    desktop_.Messages.Show("Op internet staat hulp en meer informatie.\r\n"
+                           "De computer probeert naar de volgende website gaan:\r\n" +
+                               address + "\r\n",
+                           "Veltrix Simulator", Buttons::Ok, Icon::Information);
+    OpenWebPage(address);
 }
 
 void FORM1::FatalError(const std::string& msg) {

@@ -20,6 +20,9 @@ namespace veltrix {
 /// by the objects; nothing here catches what they throw (see EventEdge).
 class FORM1 : private ProgramEnd {
 public:
+    /// Where the makers tell more of the program.
+    static constexpr const char* WebAddress = "https://veltrix.example/";
+
     /// Nothing happens before Form_Load.
     explicit FORM1(const Desktop& desktop);
 
@@ -58,6 +61,12 @@ public:
 
     void mnuVerwijderVerbindingen_Click() { interaction_.SetMode(EditMode::RemoveWires); }
 
+    void mnuHelpInfo_Click();
+
+    void mnuUitleg_Click();
+
+    void mnuHelpAbout_Click();
+
     // The mouse over the surface and the keyboard, in board pixels
     void Pictor1_MouseDown(MouseButton button, std::int32_t x, std::int32_t y) {
         Pictor1.MouseDown(button, x, y);
@@ -83,6 +92,8 @@ public:
     void Undo_AddThisState() { undo_.Undo_AddThisState(); }
 
     [[nodiscard]] static std::string ProgramTitle() { return veltrix::ProgramTitle; }
+
+    bool OpenWebPage(const std::string& address) { return webPages_.OpenWebPage(address); }
 
     /// Shows why the program cannot go on, and ends it with status 1.
     void FatalError(const std::string& msg);
@@ -116,6 +127,8 @@ private:
     BoardInteraction interaction_;
     FileCommands files_;
     Tick tick_;
+    WebPages webPages_;
+    frmHelp help_;
     bool ended_ = false;
 };
 

@@ -1,7 +1,6 @@
 #include "app/qt/DutchTexts.h"
 
-#include <algorithm>
-#include <iterator>
+#include <cstddef>
 #include <map>
 #include <string_view>
 
@@ -12,6 +11,12 @@ namespace {
 struct Text {
     std::string_view english;
     const char* dutch;
+};
+
+// The keys of a Dutch keyboard; those that are not here are called as in English.
+constexpr Text keys[] = {
+    {"Left", "←"}, {"Right", "→"},      {"Up", "↑"},
+    {"Down", "↓"}, {"Space", "Spatie"}, {"Return", "Enter"},
 };
 
 // A text means the same wherever the toolkit uses it, so where does not matter.
@@ -173,9 +178,12 @@ constexpr Text texts[] = {
     {"Goes to the next page", "Gaat naar de volgende bladzijde"},
 };
 
-std::map<std::string_view, const char*> dictionary() {
-    std::map<std::string_view, const char*> words;
-    for (const Text& text : texts)
+using Dictionary = std::map<std::string_view, const char*>;
+
+template <std::size_t Size>
+Dictionary dictionary(const Text (&list)[Size]) {
+    Dictionary words;
+    for (const Text& text : list)
         words.emplace(text.english, text.dutch);
     return words;
 }
@@ -186,12 +194,14 @@ QString DutchTexts::translate(const char* context, const char* sourceText,
                               const char* /*disambiguation*/, int /*n*/) const {
     if (context == nullptr || sourceText == nullptr)
         return {};
-    // Dutch keyboards say Ctrl, Shift and Del too.
-    if (std::string_view(context) == "QShortcut")
-        return QString::fromUtf8(sourceText);
-    static const std::map<std::string_view, const char*> words = dictionary();
+    static const Dictionary ofKeys = dictionary(keys);
+    static const Dictionary ofTexts = dictionary(texts);
+    const bool isKey = std::string_view(context) == "QShortcut";
+    const Dictionary& words = isKey ? ofKeys : ofTexts;
     const auto found = words.find(sourceText);
-    return found != words.end() ? QString::fromUtf8(found->second) : QString();
+    if (found != words.end())
+        return QString::fromUtf8(found->second);
+    return isKey ? QString::fromUtf8(sourceText) : QString();
 }
 
 } // namespace veltrix

@@ -49,9 +49,9 @@ FindBar::FindBar(QTextEdit& page, QWidget* parent)
 
     connect(word_, &QLineEdit::textChanged, this, &FindBar::findTyped);
     connect(word_, &QLineEdit::returnPressed, this, &FindBar::FindNext);
-    connect(new QShortcut(QKeySequence("Shift+Return"), word_, nullptr, nullptr,
-                          Qt::WidgetShortcut),
-            &QShortcut::activated, this, &FindBar::FindPrevious);
+    connect(
+        new QShortcut(QKeySequence("Shift+Return"), word_, nullptr, nullptr, Qt::WidgetShortcut),
+        &QShortcut::activated, this, &FindBar::FindPrevious);
     connect(new QShortcut(QKeySequence("Escape"), this, nullptr, nullptr,
                           Qt::WidgetWithChildrenShortcut),
             &QShortcut::activated, this, &FindBar::Close);

@@ -19,7 +19,8 @@ public:
     /// How large the text is, in percent of the usual.
     [[nodiscard]] int Zoom() const noexcept { return zoom_; }
 
-    // The next larger and smaller size, and the usual one. The text that was at the top stays there.
+    // The next larger and smaller size, and the usual one. The text that was at the top stays
+    // there.
     void ZoomIn();
     void ZoomOut();
     void ZoomReset();

@@ -49,7 +49,8 @@ std::unique_ptr<FileTypes> MakeFileTypes(const std::filesystem::path& program) {
     return std::make_unique<WindowsFileTypes>(program);
 }
 
-std::optional<std::string> NoDisplayReason(int /*argumentCount*/, const char* const* /*arguments*/) {
+std::optional<std::string> NoDisplayReason(int /*argumentCount*/,
+                                           const char* const* /*arguments*/) {
     return std::nullopt;
 }
 

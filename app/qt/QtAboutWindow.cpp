@@ -11,7 +11,7 @@ namespace veltrix {
 
 namespace {
 
-constexpr int side = 300;    // pixels
+constexpr int side = 300;      // pixels
 constexpr int railHeight = 44; // what the picture leaves free for the button
 
 } // namespace

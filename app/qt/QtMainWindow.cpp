@@ -5,7 +5,6 @@
 
 #include <QAction>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QKeyEvent>
@@ -54,8 +53,7 @@ void QtMainWindow::Connect(FORM1& form, EventEdge& edge) {
 
 void QtMainWindow::ShowSplash() {
     splash_ = std::make_unique<SplashWindow>(applicationFolder_);
-    splash_->show();
-    QCoreApplication::processEvents();
+    splash_->ShowPainted();
 }
 
 void QtMainWindow::UnloadSplash() {
@@ -124,6 +122,12 @@ void QtMainWindow::buildMenu() {
     // Each a check mark of its own: a group would show them as radio buttons.
     for (QAction* mode : {operate_, drawWires_, removeWires_})
         mode->setCheckable(true);
+
+    QMenu& help = *menuBar()->addMenu("&Help");
+    help.setObjectName("mnuHelp");
+    addItem(help, "mnuHelpInfo", "Info", &FORM1::mnuHelpInfo_Click);
+    addItem(help, "mnuUitleg", "Uitleg", &FORM1::mnuUitleg_Click);
+    addItem(help, "mnuHelpAbout", "Op internet: Over Veltrix", &FORM1::mnuHelpAbout_Click);
 }
 
 QAction* QtMainWindow::addItem(QMenu& menu, const char* name, const char* caption, Handler handler,

@@ -48,7 +48,8 @@ Point QtPointer::BoardPosition() {
 }
 
 bool QtPointer::OverBareMainWindow() {
-    // A menu that was open over the board can leave the bar believing that it still has the pointer.
+    // A menu that was open over the board can leave the bar believing that it still has the
+    // pointer.
     return bare_.underMouse() && bare_.rect().contains(bare_.mapFromGlobal(QCursor::pos()));
 }
 

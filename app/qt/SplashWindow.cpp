@@ -2,13 +2,16 @@
 
 #include "app/qt/QtPictures.h"
 
+#include <QCoreApplication>
 #include <QLabel>
+#include <QTimer>
 
 namespace veltrix {
 
 namespace {
 
-constexpr int side = 300; // pixels
+constexpr int side = 300;     // pixels
+constexpr int patience = 100; // ms
 
 } // namespace
 
@@ -26,6 +29,21 @@ SplashWindow::SplashWindow(const std::filesystem::path& applicationFolder)
     text->setAlignment(Qt::AlignCenter);
     text->setStyleSheet("color: white");
     CentreOnScreen(*this);
+}
+
+void SplashWindow::ShowPainted() {
+    show();
+    QTimer limit;
+    limit.setSingleShot(true);
+    limit.start(patience);
+    while (!painted_ && limit.isActive())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents |
+                                        QEventLoop::ExcludeUserInputEvents);
+}
+
+void SplashWindow::paintEvent(QPaintEvent* event) {
+    QWidget::paintEvent(event);
+    painted_ = true;
 }
 
 } // namespace veltrix

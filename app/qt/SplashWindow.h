@@ -12,6 +12,16 @@ class SplashWindow : public QWidget {
 
 public:
     explicit SplashWindow(const std::filesystem::path& applicationFolder);
+
+    /// Shows the window and returns when it has been painted, so that it is seen although what
+    /// comes next lets no event through. Does not wait long for a desktop that is not ready.
+    void ShowPainted();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool painted_ = false;
 };
 
 } // namespace veltrix

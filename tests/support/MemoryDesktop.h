@@ -2,6 +2,7 @@
 
 #include "app/EventEdge.h"
 #include "app/FORM1.h"
+#include "tests/support/FakeShell.h"
 #include "tests/support/FakeSound.h"
 #include "tests/support/Logs.h"
 #include "tests/support/TestSimulation.h"
@@ -192,11 +193,16 @@ struct MemoryDesktop {
     FakeSoundInputs sound;
     FakeWaveInputsViews waveInputs;
     FakeProgramStart programs;
+    FakeAboutViews aboutWindows;
+    FakeHelpViews helpWindows;
+    FakeShell shell;
+    FakeFileTypes fileTypes;
     FakeSoundPlayer player;
     FakeNotice notice;
     KeptLog log;
     FORM1 form{{window, program, menu, menu, messages, files, timer, clock, pointer,
-                sound.Captures(), sound.settings, waveInputs, programs, player, log}};
+                sound.Captures(), sound.settings, waveInputs, programs, aboutWindows, helpWindows,
+                shell, fileTypes, player, log}};
     EventEdge edge{form, messages, notice, log};
     int ticks = 0;
 
