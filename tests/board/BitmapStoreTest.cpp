@@ -36,6 +36,18 @@ TEST(BitmapStore, AMissingPictureDrawsNothingAndIsLoggedOnce) {
     EXPECT_THAT(canvas.log.Lines[0], testing::HasSubstr("weg.bmp"));
 }
 
+TEST(BitmapStore, WithoutAFolderNoPictureIsMissed) {
+    test::KeptLog log;
+    PictorATL surface;
+    ASSERT_TRUE(surface.Start({}, 40, 30, 1, log));
+    const std::int32_t bitmap = surface.LoadBitmap("\\map\\weg.bmp");
+    surface.SetSpriteSize(surface.CreateMaskedSprite(bitmap, bitmap), 5, 5);
+    surface.Restart(2);
+    surface.Refresh();
+    EXPECT_EQ(surface.Frame().Row(0)[0], nothing);
+    EXPECT_EQ(log.Lines, std::vector<std::string>());
+}
+
 TEST(BitmapStore, ABrokenPictureDrawsNothingAndIsLoggedOnce) {
     Canvas canvas;
     std::ofstream(canvas.folder.Path() / "stuk.bmp") << "no picture";
@@ -112,6 +124,24 @@ TEST(BitmapStore, APictureIsAsLargeOnTheBoardAtEveryScale) {
         EXPECT_EQ(canvas.pixel(frame(24), frame(8)), nothing) << scale;
         EXPECT_EQ(canvas.pixel(frame(4), frame(12)), nothing) << scale;
     }
+}
+
+TEST(BitmapStore, APlaceBetweenTwoPixelsOfTheFrameIsRounded) {
+    Canvas canvas(1.25);
+    const std::int32_t sprite = canvas.sprite(red, {0, 0, 4, 3});
+    const auto leftAt = [&](std::int32_t x) {
+        canvas.surface.PlaceSprite(sprite, x, 0);
+        canvas.surface.Refresh();
+        std::int32_t left = 0;
+        while (canvas.pixel(left, 0) != red)
+            ++left;
+        return left;
+    };
+    EXPECT_EQ(leftAt(1), 1);   // 1.25
+    EXPECT_EQ(leftAt(2), 3);   // 2.5
+    EXPECT_EQ(leftAt(3), 4);   // 3.75
+    EXPECT_EQ(leftAt(4), 5);   // 5
+    EXPECT_EQ(leftAt(10), 13); // 12.5
 }
 
 TEST(BitmapStore, TheFramesOfAStripKeepTheirEdgesAtEveryScale) {

@@ -59,7 +59,7 @@ TEST(PictorATL, TheFrameReachesToTheLastPixelThatTheBoardTouches) {
     check(1.25, 50, 38);
     check(1.5, 60, 45);
     check(2, 80, 60);
-    check(0.3, 12, 9);
+    check(0.33, 14, 10);
 }
 
 TEST(PictorATL, WhereNothingLiesTheFrameIsBlack) {

@@ -122,16 +122,15 @@ TEST_F(clsLineTest, AColourWithoutAPictureIsAnErrorAndKept) {
     EXPECT_EQ(beads(), (Beads{{89, 84, 0, 2}}));
 }
 
-TEST_F(clsLineTest, WiresLieAboveLevelSevenAndBelowLevelNine) {
-    const std::int32_t picture =
-        surface.LoadBitmap("\\images1\\LineMask.bmp"); // white, which no bead is
+TEST_F(clsLineTest, WiresLieOnLevelEight) {
     line->SetAll(100, 100, 110, 100, 3);
-    const std::int32_t sprite = surface.CreateSprite(picture);
+    // White, which no bead is, and younger than the wire: what shares its level lies above it.
+    const std::int32_t sprite = surface.CreateSprite(surface.LoadBitmap("\\images1\\LineMask.bmp"));
     surface.PlaceSprite(sprite, 0, 84);
     surface.SetLevel(sprite, 7);
     surface.Refresh();
     EXPECT_NE(surface.Frame().Row(84)[89], 0xFFFFFFFF);
-    surface.SetLevel(sprite, 9);
+    surface.SetLevel(sprite, 8);
     surface.Refresh();
     EXPECT_EQ(surface.Frame().Row(84)[89], 0xFFFFFFFF);
 }

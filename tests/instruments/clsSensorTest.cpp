@@ -79,12 +79,13 @@ TEST_F(clsSensorTest, AClickCountsOnFromAnyMode) {
     EXPECT_EQ(sensor.Value(), std::numeric_limits<std::int32_t>::max());
 }
 
-TEST_F(clsSensorTest, LiesAboveLevelSevenAndBelowLevelNine) {
+TEST_F(clsSensorTest, LiesOnLevelEight) {
+    // Younger than the sensor: what shares its level lies above it.
     const std::int32_t other = surface.CreateSprite(surface.LoadBitmap("\\images2\\RedLight.bmp"));
     surface.PlaceSprite(other, 20, 30);
     surface.SetLevel(other, 7);
     EXPECT_EQ(seen(), 0);
-    surface.SetLevel(other, 9);
+    surface.SetLevel(other, 8);
     surface.Refresh();
     EXPECT_EQ(surface.Frame().Row(30)[20], colours::RedLight);
 }

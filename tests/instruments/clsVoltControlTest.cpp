@@ -256,12 +256,13 @@ TEST_F(clsVoltControlTest, AValueSetWhileHiddenDoesNotShowThePointer) {
     EXPECT_EQ(pointerOnScale(place), 99);
 }
 
-TEST_F(clsVoltControlTest, LiesAboveTheWires) {
+TEST_F(clsVoltControlTest, LiesOnLevelTenAboveTheWires) {
+    // Younger than the knob: what shares its level lies above it.
     const std::int32_t other = surface.CreateSprite(surface.LoadBitmap("\\images2\\Bord.bmp"));
     surface.SetLevel(other, 9);
     knob.Move(place.x, place.y);
     EXPECT_EQ(pixel(place.x, place.y), colours::Scale);
-    surface.SetLevel(other, 11);
+    surface.SetLevel(other, 10);
     EXPECT_EQ(pixel(place.x, place.y), colours::Board);
 }
 

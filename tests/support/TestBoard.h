@@ -11,12 +11,11 @@
 
 namespace veltrix::test {
 
-/// A surface that has been started, with a board on it. Without a folder no picture is found: the
+/// A surface that has been started, with a board on it. Without a folder no picture is loaded: the
 /// board works as it does with pictures, but nothing is seen, and the knob, whose scale is as large
 /// as its picture, has no place where it could be hit.
 struct TestBoard {
-    explicit TestBoard(const std::filesystem::path& pictures = "no-pictures-here",
-                       double scale = 1) {
+    explicit TestBoard(const std::filesystem::path& pictures = {}, double scale = 1) {
         if (!surface.Start(pictures, Board::Width, Board::Height, scale, log))
             throw std::runtime_error("the surface does not start");
         board.Constructor(surface);
