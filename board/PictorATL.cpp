@@ -230,6 +230,7 @@ std::int32_t PictorATL::CountInGroup(std::int32_t group) const noexcept {
 // The frame
 
 void PictorATL::Refresh() {
+    indexGhosts();
     for (const std::int32_t index : touched_) {
         Node& sprite = node(index);
         sprite.touched = false;
@@ -248,7 +249,6 @@ void PictorATL::Refresh() {
         node(index).paintedAge = node(index).age;
     touched_.clear();
     ghosts_.clear();
-    nextGhost_ = 0;
 
     changed_.swap(damaged_);
     damaged_.clear();
@@ -259,15 +259,37 @@ void PictorATL::Refresh() {
         compose(rect);
 }
 
+std::size_t PictorATL::bucketOf(const Look& look) const noexcept {
+    const auto mixed = static_cast<std::uint64_t>(look.rect.x) * 0x9E3779B97F4A7C15U ^
+                       static_cast<std::uint64_t>(look.rect.y) * 0xC2B2AE3D27D4EB4FU ^
+                       look.among * 0x165667B19E3779F9U ^ static_cast<std::uint64_t>(look.bitmap);
+    return static_cast<std::size_t>(mixed >> 32) & (buckets_.size() - 1);
+}
+
+/// Finds ghosts by their looks, so that a board of thousands of beads need not compare each with
+/// each.
+void PictorATL::indexGhosts() {
+    if (ghosts_.empty())
+        return;
+    std::size_t buckets = 1;
+    while (buckets < ghosts_.size())
+        buckets *= 2;
+    buckets_.assign(buckets, -1);
+    for (std::size_t i = ghosts_.size(); i-- > 0;) {
+        std::int32_t& bucket = buckets_[bucketOf(ghosts_[i].look)];
+        ghosts_[i].next = bucket;
+        bucket = static_cast<std::int32_t>(i);
+    }
+}
+
 /// Whether `fresh`, which the last frame does not show, looks exactly like a sprite that has been
 /// deleted since, with nothing painted between the two that would now lie on the other side.
 bool PictorATL::takeOver(Node& fresh, const Look& look) {
-    if (!fresh.painted.rect.Empty() || look.rect.Empty())
+    if (ghosts_.empty() || !fresh.painted.rect.Empty() || look.rect.Empty())
         return false;
-    // Sprites are mostly made again in the order in which they were deleted.
-    const std::size_t count = ghosts_.size();
-    for (std::size_t i = 0; i < count; ++i) {
-        const std::size_t at = (nextGhost_ + i) % count;
+    for (std::int32_t place = buckets_[bucketOf(look)]; place >= 0;) {
+        const auto at = static_cast<std::size_t>(place);
+        place = ghosts_[at].next;
         if (!(ghosts_[at].look == look))
             continue;
         const std::uint64_t before = ghosts_[at].age;
@@ -283,7 +305,6 @@ bool PictorATL::takeOver(Node& fresh, const Look& look) {
         }
         fresh.paintedAge = before;
         ghosts_[at].look = {};
-        nextGhost_ = at + 1;
         return true;
     }
     return false;

@@ -210,6 +210,7 @@ private:
     struct Ghost {
         Look look;
         std::uint64_t age = 0;
+        std::int32_t next = -1; // in its bucket
     };
 
     // Nodes
@@ -240,6 +241,8 @@ private:
     // Painting
     [[nodiscard]] std::int32_t toFrame(std::int64_t board) const noexcept;
     [[nodiscard]] Look lookOf(std::int32_t index) const;
+    void indexGhosts();
+    [[nodiscard]] std::size_t bucketOf(const Look& look) const noexcept;
     bool takeOver(Node& fresh, const Look& look);
     void damage(const Rect& rect);
     void order();
@@ -262,10 +265,10 @@ private:
 
     std::vector<std::int32_t> touched_;
     std::vector<Ghost> ghosts_;
-    std::size_t nextGhost_ = 0;
-    std::vector<Rect> damaged_;       // will be painted by the next Refresh
-    std::vector<Rect> changed_;       // was painted by the last one
-    std::vector<std::int32_t> order_; // all nodes, from the lowest to the highest
+    std::vector<std::int32_t> buckets_; // the first ghost of each
+    std::vector<Rect> damaged_;         // will be painted by the next Refresh
+    std::vector<Rect> changed_;         // was painted by the last one
+    std::vector<std::int32_t> order_;   // all nodes, from the lowest to the highest
     bool orderStale_ = true;
     Picture frame_;
 
