@@ -41,13 +41,13 @@ constexpr Icon icons[] = {
 constexpr int iconSizes[] = {16, 24, 32, 48, 64, 128, 256};
 
 std::optional<std::string> contentOf(const fs::path& file) {
+    std::error_code unknown;
+    if (!fs::is_regular_file(file, unknown)) // reading a folder would throw
+        return std::nullopt;
     std::ifstream stream(file, std::ios::binary);
     if (!stream)
         return std::nullopt;
-    std::string content{std::istreambuf_iterator<char>(stream), {}};
-    if (stream.bad())
-        return std::nullopt;
-    return content;
+    return std::string(std::istreambuf_iterator<char>(stream), {});
 }
 
 enum class Outcome { Failed, Same, Written };

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "app/FileTypes.h"
 #include "app/Shell.h"
 #include "app/frmAbout.h"
 #include "app/frmHelp.h"
-#include "board/Types.h"
+#include "board/PictorATL.h"
 
 #include <cstdint>
 #include <deque>
