@@ -3,57 +3,76 @@
 #include "board/AppPath.h"
 
 #include <QMediaDevices>
-#include <QSoundEffect>
-#include <QUrl>
 
 #include <utility>
 
 namespace veltrix {
 
-LoopPlayer::LoopPlayer(std::filesystem::path applicationFolder, QObject* parent)
-    : QObject(parent), applicationFolder_(std::move(applicationFolder)) {}
+namespace {
 
-LoopPlayer::~LoopPlayer() = default;
+// A buzzer may be switched many times a second, and a loudspeaker that is opened and closed as
+// often chokes; so it stays open for a while. Then it is closed, for even silence takes work.
+constexpr int restAfter = 2000; // ms
 
-void LoopPlayer::Load(const std::string& name) {
-    followOutput();
-    (void)effect(name);
+constexpr qint64 buffered = 60000; // microseconds that are not changed any more
+
+} // namespace
+
+LoopPlayer::LoopPlayer(std::filesystem::path applicationFolder, Opener opener, QObject* parent)
+    : QObject(parent),
+      applicationFolder_(std::move(applicationFolder)),
+      opener_(std::move(opener)),
+      rest_(this) {
+    rest_.setSingleShot(true);
+    rest_.setInterval(restAfter);
+    connect(&rest_, &QTimer::timeout, this, [this] { sink_.reset(); });
 }
 
 void LoopPlayer::Play(const std::string& name) {
-    // Stopping is heard at once; a file that takes over would let the old one sound on from the
-    // sound server's buffer.
-    if (playing_ != nullptr)
-        playing_->stop();
-    followOutput();
-    playing_ = &effect(name);
-    playing_->play();
+    playing_ = &loop(name);
+    if (playing_->Silent())
+        rest_.start();
+    else
+        rest_.stop();
+    if (sink_ != nullptr && !playing_->samples.isEmpty() && sink_->format() != playing_->format)
+        sink_.reset();
+    source_.Play(*playing_);
+    if (sink_ == nullptr && !playing_->Silent())
+        open();
 }
 
-void LoopPlayer::followOutput() {
-    // An effect stays with the output that it was made for, even when that is gone.
-    const QAudioDevice output = QMediaDevices::defaultAudioOutput();
-    if (output == output_)
+void LoopPlayer::Follow() {
+    if (playing_ == nullptr || playing_->Silent())
         return;
-    output_ = output;
-    playing_ = nullptr;
-    effects_.clear();
+    if (!sounds() || output_ != QMediaDevices::defaultAudioOutput())
+        open();
 }
 
-QSoundEffect& LoopPlayer::effect(const std::string& name) {
-    std::unique_ptr<QSoundEffect>& effect = effects_[name];
-    if (effect != nullptr && effect->status() != QSoundEffect::Error)
-        return *effect;
-    const QString file = QString::fromStdString(Utf8FromPath(AppPath(applicationFolder_, name)));
-    effect = std::make_unique<QSoundEffect>(output_);
-    effect->setLoopCount(QSoundEffect::Infinite);
-    connect(effect.get(), &QSoundEffect::statusChanged, this, [this, name, e = effect.get()] {
-        if (e->status() == QSoundEffect::Error && !output_.isNull() &&
-            reported_.insert(name).second)
-            emit Fault("sound: " + QString::fromStdString(name) + " cannot be played");
+const Loop& LoopPlayer::loop(const std::string& name) {
+    const auto known = loops_.find(name);
+    if (known != loops_.end())
+        return known->second;
+    const Loop& read = loops_[name] = ReadLoop(AppPath(applicationFolder_, name));
+    if (read.samples.isEmpty())
+        emit Fault("sound: " + QString::fromStdString(name) + " cannot be played");
+    return read;
+}
+
+void LoopPlayer::open() {
+    sink_.reset();
+    output_ = QMediaDevices::defaultAudioOutput();
+    if (output_.isNull())
+        return;
+    opener_([this] {
+        auto sink = std::make_unique<QAudioSink>(output_, playing_->format);
+        sink->setBufferSize(playing_->format.bytesForDuration(buffered));
+        sink->start(&source_);
+        sink_ = std::move(sink);
     });
-    effect->setSource(QUrl::fromLocalFile(file));
-    return *effect;
+}
+
+bool LoopPlayer::sounds() const {
+    return sink_ != nullptr && sink_->state() != QAudio::StoppedState;
 }
 
 } // namespace veltrix

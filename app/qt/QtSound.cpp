@@ -95,7 +95,7 @@ void QtSound::Play(const std::string& name) {
 void QtSound::startWorker() {
     auto* thread = new QThread;
     threads_.push_back(thread);
-    worker_ = new SoundWorker(inputs_, wish_, applicationFolder_);
+    worker_ = new SoundWorker(inputs_, wish_, openings_, applicationFolder_);
     worker_->moveToThread(thread);
     connect(thread, &QThread::started, worker_, &SoundWorker::Begin);
     connect(thread, &QThread::finished, worker_, &QObject::deleteLater);
@@ -105,11 +105,14 @@ void QtSound::startWorker() {
 }
 
 void QtSound::replaceHangingWorker() {
-    const auto input = inputs_->TakeHanging();
-    if (!input)
+    const auto device = openings_->TakeHanging();
+    if (!device)
         return;
-    if (inputs_->SetFailed(*input, true))
-        log_.Write("sound: input " + inputs_->Name(*input) + " does not open");
+    const auto input = static_cast<std::int32_t>(*device);
+    if (*device == OpeningWatch::Output)
+        log_.Write("sound: the loudspeaker does not open");
+    else if (inputs_->SetFailed(input, true))
+        log_.Write("sound: input " + inputs_->Name(input) + " does not open");
     worker_->Abandon();
     startWorker();
 }

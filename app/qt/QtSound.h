@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/qt/OpeningWatch.h"
 #include "app/qt/Sound.h"
 #include "app/qt/SoundInputs.h"
 #include "app/qt/SoundWorker.h"
@@ -77,9 +78,10 @@ private:
 
     std::filesystem::path applicationFolder_;
     Log& log_;
-    // The worker holds these two as well: one that hangs outlives the sound.
+    // The worker holds these as well: one that hangs outlives the sound.
     std::shared_ptr<SoundInputs> inputs_ = std::make_shared<SoundInputs>();
     std::shared_ptr<SoundWish> wish_ = std::make_shared<SoundWish>();
+    std::shared_ptr<OpeningWatch> openings_ = std::make_shared<OpeningWatch>();
     std::vector<QThread*> threads_; // the last one works, those before it hang or have ended
     SoundWorker* worker_ = nullptr; // in the last thread
     QTimer supervision_;

@@ -1,8 +1,8 @@
 #include "app/qt/QtWaveInputsDialog.h"
 
+#include "app/qt/QtPictures.h"
 #include "app/qt/VolumeMeter.h"
 
-#include <QFontMetrics>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -124,6 +124,8 @@ void QtWaveInputsDialog::ShowModal(frmWaveInputs& dialog) {
             meter->Step();
     });
     timer1_.start();
+    adjustSize();
+    CentreOnScreen(*this);
     exec();
     timer1_.stop();
 }

@@ -19,7 +19,7 @@ std::string SoundInputs::Name(std::int32_t i) const {
 bool SoundInputs::Valid(std::int32_t i) const {
     const std::lock_guard lock(mutex_);
     const Input* input = find(i);
-    return input != nullptr && !input->device.isNull() && !input->hanging && !input->failed;
+    return input != nullptr && !input->device.isNull() && !input->failed;
 }
 
 void SoundInputs::Want(std::int32_t i) {
@@ -32,18 +32,6 @@ std::int32_t SoundInputs::Level(std::int32_t i) const noexcept {
     if (i < 1 || i > UCWaveIn::Inputs)
         return 0;
     return levels_[static_cast<std::size_t>(i - 1)].load(std::memory_order_relaxed);
-}
-
-std::optional<std::int32_t> SoundInputs::TakeHanging() {
-    const std::lock_guard lock(mutex_);
-    const Time now = std::chrono::steady_clock::now();
-    for (Input& input : inputs_) {
-        if (!input.opening || input.hanging || now - *input.opening < Patience)
-            continue;
-        input.hanging = true;
-        return static_cast<std::int32_t>(&input - inputs_.data()) + 1;
-    }
-    return std::nullopt;
 }
 
 void SoundInputs::Update(const QList<QAudioDevice>& devices) {
@@ -61,27 +49,10 @@ void SoundInputs::Update(const QList<QAudioDevice>& devices) {
     known_ = true;
 }
 
-std::optional<QAudioDevice> SoundInputs::ToOpen(std::int32_t i) const {
+QAudioDevice SoundInputs::Wanted(std::int32_t i) const {
     const std::lock_guard lock(mutex_);
     const Input* input = find(i);
-    if (input == nullptr || !input->wanted || input->device.isNull() || input->opening)
-        return std::nullopt;
-    return input->device;
-}
-
-void SoundInputs::BeginOpening(std::int32_t i) {
-    const std::lock_guard lock(mutex_);
-    if (Input* input = find(i))
-        input->opening = std::chrono::steady_clock::now();
-}
-
-void SoundInputs::EndOpening(std::int32_t i) {
-    const std::lock_guard lock(mutex_);
-    Input* input = find(i);
-    if (input == nullptr)
-        return;
-    input->opening.reset();
-    input->hanging = false;
+    return input != nullptr && input->wanted ? input->device : QAudioDevice();
 }
 
 bool SoundInputs::SetFailed(std::int32_t i, bool failed) {

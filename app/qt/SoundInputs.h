@@ -3,27 +3,23 @@
 #include "instruments/UCWaveIn.h"
 
 #include <QAudioDevice>
+#include <QByteArray>
 #include <QList>
 
 #include <array>
 #include <atomic>
-#include <chrono>
 #include <cstdint>
 #include <mutex>
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace veltrix {
 
-/// What is known of the sound inputs: the one thing that the window's thread and those of the sound
-/// share. Nothing here waits for the sound server. Inputs are counted from 1; asking for one that
+/// What is known of the sound inputs, by the window's thread and those of the sound. Nothing here
+/// waits for the sound server. Inputs are counted from 1; asking for one that
 /// there is not is allowed, and it is of no use.
 class SoundInputs {
 public:
-    /// An input that takes longer to open than this may never return.
-    static constexpr std::chrono::seconds Patience{2};
-
     // For the window's thread
 
     /// How many inputs there have been; negative until the sound server has been asked.
@@ -39,22 +35,14 @@ public:
     /// The latest level of an input, 0 to 32768, free of locks.
     [[nodiscard]] std::int32_t Level(std::int32_t i) const noexcept;
 
-    /// The input that has been opening for longer than Patience, if it was not told before.
-    [[nodiscard]] std::optional<std::int32_t> TakeHanging();
-
     // For the threads of the sound
 
     /// Takes over the list as it is now. An input keeps its number while it is away, and a new one
     /// comes behind the others.
     void Update(const QList<QAudioDevice>& devices);
 
-    /// The device of an input that is to be opened: it is wanted and there, and does not hang.
-    [[nodiscard]] std::optional<QAudioDevice> ToOpen(std::int32_t i) const;
-
-    void BeginOpening(std::int32_t i);
-
-    /// The opening came back, early or late.
-    void EndOpening(std::int32_t i);
+    /// The device of an input that is wanted and there; a null device otherwise.
+    [[nodiscard]] QAudioDevice Wanted(std::int32_t i) const;
 
     /// An input works as soon as it gives sound, and has failed when it does not. True when that
     /// is news.
@@ -63,15 +51,11 @@ public:
     void SetLevel(std::int32_t i, std::int32_t level) noexcept;
 
 private:
-    using Time = std::chrono::steady_clock::time_point;
-
     struct Input {
         QAudioDevice device; // null while it is away
         QByteArray id;
         std::string name;
-        std::optional<Time> opening; // since when
         bool wanted = false;
-        bool hanging = false;
         bool failed = false;
     };
 

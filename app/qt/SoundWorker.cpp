@@ -28,10 +28,14 @@ std::string SoundWish::Take() {
 }
 
 SoundWorker::SoundWorker(std::shared_ptr<SoundInputs> inputs, std::shared_ptr<SoundWish> wish,
+                         std::shared_ptr<OpeningWatch> openings,
                          std::filesystem::path applicationFolder)
     : inputs_(std::move(inputs)),
       wish_(std::move(wish)),
-      player_(std::move(applicationFolder), this),
+      openings_(std::move(openings)),
+      player_(
+          std::move(applicationFolder),
+          [this](const std::function<void()>& start) { open(OpeningWatch::Output, start); }, this),
       watch_(this) {
     connect(&player_, &LoopPlayer::Fault, this, &SoundWorker::Fault);
     connect(&watch_, &QTimer::timeout, this, &SoundWorker::watch);
@@ -48,7 +52,7 @@ void SoundWorker::Begin() {
 
 void SoundWorker::PlayWish() {
     const std::string wish = wish_->Take();
-    if (wish == playing_)
+    if (wish == playing_ || abandoned_)
         return;
     playing_ = wish;
     player_.Play(wish);
@@ -56,21 +60,20 @@ void SoundWorker::PlayWish() {
 
 void SoundWorker::OpenInputs() {
     for (std::int32_t i = 1; i <= UCWaveIn::Inputs && !abandoned_; ++i)
-        if (captures_[static_cast<std::size_t>(i - 1)] == nullptr)
-            open(i);
+        if (capture(i) == nullptr)
+            listen(i);
 }
 
 void SoundWorker::watch() {
-    for (std::int32_t i = 1; i <= UCWaveIn::Inputs; ++i) {
-        const auto& capture = captures_[static_cast<std::size_t>(i - 1)];
-        if (capture == nullptr || !capture->Deaf())
-            continue;
-        close(i);
-        tellFailed(i);
-    }
+    if (abandoned_)
+        return;
+    for (std::int32_t i = 1; i <= UCWaveIn::Inputs; ++i)
+        if (capture(i) != nullptr && capture(i)->Deaf())
+            giveUp(i);
     if (++watches_ % watchesPerListing != 0)
         return;
     list();
+    player_.Follow();
     OpenInputs();
 }
 
@@ -80,36 +83,53 @@ void SoundWorker::list() {
     std::stable_partition(devices.begin(), devices.end(),
                           [](const QAudioDevice& device) { return device.isDefault(); });
     inputs_->Update(devices);
+    // When an input goes away, the sound server gives its listeners another one.
+    for (std::int32_t i = 1; i <= UCWaveIn::Inputs; ++i)
+        if (capture(i) != nullptr && inputs_->Wanted(i).isNull())
+            giveUp(i);
 }
 
-void SoundWorker::open(std::int32_t i) {
-    const auto device = inputs_->ToOpen(i);
-    if (!device)
+void SoundWorker::listen(std::int32_t i) {
+    const QAudioDevice device = inputs_->Wanted(i);
+    if (device.isNull())
         return;
-    auto capture =
-        std::make_unique<SoundCapture>(*device, [inputs = inputs_, i](std::int32_t peak) {
-            inputs->SetLevel(i, peak);
-            inputs->SetFailed(i, false);
-        });
-    inputs_->BeginOpening(i);
-    const bool opened = capture->Open();
-    inputs_->EndOpening(i);
-    if (abandoned_)
-        thread()->quit();
-    else if (opened)
-        captures_[static_cast<std::size_t>(i - 1)] = std::move(capture);
-    else
-        tellFailed(i);
+    open(static_cast<std::size_t>(i), [this, i, &device] {
+        auto opening =
+            std::make_unique<SoundCapture>(device, [inputs = inputs_, i](std::int32_t peak) {
+                inputs->SetLevel(i, peak);
+                inputs->SetFailed(i, false);
+            });
+        if (opening->Open())
+            capture(i) = std::move(opening);
+        else
+            tellFailed(i);
+    });
 }
 
-void SoundWorker::close(std::int32_t i) {
-    captures_[static_cast<std::size_t>(i - 1)].reset();
+void SoundWorker::giveUp(std::int32_t i) {
+    capture(i).reset();
     inputs_->SetLevel(i, 0);
+    tellFailed(i);
 }
 
 void SoundWorker::tellFailed(std::int32_t i) {
     if (inputs_->SetFailed(i, true))
         emit Fault("sound: input " + QString::fromStdString(inputs_->Name(i)) + " gives no sound");
+}
+
+void SoundWorker::open(std::size_t device, const std::function<void()>& open) {
+    // What hangs in another thread is left alone until it comes back.
+    if (abandoned_ || openings_->IsOpening(device))
+        return;
+    openings_->Begin(device);
+    open();
+    openings_->End(device);
+    if (abandoned_)
+        QMetaObject::invokeMethod(thread(), &QThread::quit, Qt::QueuedConnection);
+}
+
+std::unique_ptr<SoundCapture>& SoundWorker::capture(std::int32_t i) {
+    return captures_.at(static_cast<std::size_t>(i - 1));
 }
 
 } // namespace veltrix

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/qt/LoopPlayer.h"
+#include "app/qt/OpeningWatch.h"
 #include "app/qt/SoundCapture.h"
 #include "app/qt/SoundInputs.h"
 
@@ -11,6 +12,7 @@
 #include <atomic>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -40,7 +42,7 @@ class SoundWorker : public QObject {
 
 public:
     SoundWorker(std::shared_ptr<SoundInputs> inputs, std::shared_ptr<SoundWish> wish,
-                std::filesystem::path applicationFolder);
+                std::shared_ptr<OpeningWatch> openings, std::filesystem::path applicationFolder);
 
     /// Begins to work, in the thread that it was moved to.
     void Begin();
@@ -61,12 +63,15 @@ signals:
 private:
     void watch();
     void list();
-    void open(std::int32_t i);
-    void close(std::int32_t i);
+    void listen(std::int32_t i);
+    void giveUp(std::int32_t i);
     void tellFailed(std::int32_t i);
+    void open(std::size_t device, const std::function<void()>& open);
+    [[nodiscard]] std::unique_ptr<SoundCapture>& capture(std::int32_t i);
 
     std::shared_ptr<SoundInputs> inputs_;
     std::shared_ptr<SoundWish> wish_;
+    std::shared_ptr<OpeningWatch> openings_;
     LoopPlayer player_;
     std::string playing_;
     std::array<std::unique_ptr<SoundCapture>, UCWaveIn::Inputs> captures_;
