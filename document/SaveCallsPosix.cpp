@@ -151,7 +151,8 @@ public:
 
     bool IsReplaceable(File file) override {
         const struct stat facts = factsOf(descriptor(file));
-        return S_ISREG(facts.st_mode) && facts.st_nlink == 1 &&
+        // Without any name it was replaced itself since it was opened.
+        return S_ISREG(facts.st_mode) && facts.st_nlink <= 1 &&
                (::fcntl(descriptor(file), F_GETFL) & O_ACCMODE) == O_RDWR;
     }
 

@@ -153,15 +153,22 @@ TEST(FileSave, ADiskThatIsPulledOutLeavesTheOldFileOrTheNewOne) {
     }
 }
 
-TEST(FileSave, ADiskThatIsFullNeverCostsTheOldFileAlsoInPlace) {
-    for (int failing = 1; failing < 30; ++failing) {
+/// The number of the first call of that name in a save that goes well.
+int numberOf(const std::string& name, const Case& example) {
+    MemoryDisk disk = diskFor(example);
+    EXPECT_TRUE(save(disk, example.content));
+    const auto found = std::find(disk.calls.begin(), disk.calls.end(), name);
+    EXPECT_NE(found, disk.calls.end()) << name;
+    return static_cast<int>(found - disk.calls.begin()) + 1;
+}
+
+TEST(FileSave, AFileThatCannotGrowInPlaceStaysWhatItWas) {
+    for (const char* const name : {"Write", "Flush"}) {
         MemoryDisk disk = diskFor(casesInPlace[1]);
-        disk.failing = failing;
+        disk.failing = numberOf(name, casesInPlace[1]);
         disk.reason = std::errc::no_space_on_device;
-        const bool saved = save(disk, longContent);
-        if (!saved && disk.calls[static_cast<std::size_t>(failing) - 1] == "Write") {
-            EXPECT_EQ(disk.At("bord.vtx")->substr(0, oldContent.size()), oldContent) << failing;
-        }
+        EXPECT_FALSE(save(disk, longContent));
+        EXPECT_EQ(disk.At("bord.vtx"), oldContent) << name;
         EXPECT_EQ(disk.openFiles, 0);
     }
 }
@@ -196,16 +203,22 @@ TEST(FileSave, ARefusedSecondFileMeansWritingInPlace) {
 TEST(FileSave, ASecondFileThatCannotTakeTheNameMeansWritingInPlace) {
     for (const std::errc reason : {std::errc::permission_denied, std::errc::device_or_resource_busy,
                                    std::errc::cross_device_link}) {
-        MemoryDisk disk = diskFor(cases[1]);
-        EXPECT_TRUE(save(disk, shortContent));
-        const auto rename = std::find(disk.calls.begin(), disk.calls.end(), "Rename");
         MemoryDisk refusing = diskFor(cases[1]);
         refusing.reason = reason;
-        refusing.failing = static_cast<int>(rename - disk.calls.begin()) + 1;
+        refusing.failing = numberOf("Rename", cases[1]);
         EXPECT_TRUE(save(refusing, shortContent));
         EXPECT_EQ(refusing.At("bord.vtx"), expectedAfter(oldContent, shortContent));
         EXPECT_EQ(refusing.Names(), 1u);
         EXPECT_EQ(refusing.openFiles, 0);
+    }
+}
+
+TEST(FileSave, ABrokenDiskIsNoReasonToWriteInPlace) {
+    for (const char* const name : {"Create", "Write", "Flush", "Rename"}) {
+        MemoryDisk disk = diskFor(cases[1]);
+        disk.failing = numberOf(name, cases[1]);
+        EXPECT_FALSE(save(disk, shortContent)) << name;
+        EXPECT_EQ(disk.At("bord.vtx"), oldContent) << name;
     }
 }
 

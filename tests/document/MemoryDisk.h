@@ -103,12 +103,16 @@ public:
         return done(offset < content.size() ? content.substr(offset, most) : std::string());
     }
 
+    /// One that fails has written the first half.
     void Write(File file, std::uint64_t offset, std::string_view bytes) override {
-        call("Write");
         std::string& content = nodeOf(file).content;
-        if (content.size() < offset + bytes.size())
-            content.resize(offset + bytes.size());
-        content.replace(offset, bytes.size(), bytes);
+        try {
+            call("Write");
+        } catch (const std::system_error&) {
+            put(content, offset, bytes.substr(0, bytes.size() / 2));
+            throw;
+        }
+        put(content, offset, bytes);
         whenCalled();
     }
 
@@ -160,6 +164,12 @@ private:
         std::string content;
         std::string flushed;
     };
+
+    static void put(std::string& content, std::uint64_t offset, std::string_view bytes) {
+        if (content.size() < offset + bytes.size())
+            content.resize(offset + bytes.size());
+        content.replace(offset, bytes.size(), bytes);
+    }
 
     void call(const std::string& name) {
         calls.push_back(name);

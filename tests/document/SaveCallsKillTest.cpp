@@ -14,6 +14,7 @@
 #include <string>
 #include <time.h>
 #include <unistd.h>
+#include <vector>
 
 namespace veltrix {
 namespace {
@@ -108,6 +109,30 @@ TEST(SaveCallsKill, ASaveKilledAtAnyMomentLeavesAWholeFile) {
     std::cout << kills << " kills, " << inTheMiddle << " in the middle of a save, " << without
               << " before there was a file" << std::endl;
     EXPECT_GT(inTheMiddle, 0) << "no kill hit a save";
+}
+
+TEST(SaveCallsKill, SavesOfOneFileAtOnceLeaveItWholeAndNothingElse) {
+    constexpr int savers = 4;
+    constexpr int savesEach = 50;
+    const test::OneFile file;
+    save(file.text, std::string(30000, 'a'));
+    std::vector<pid_t> processes;
+    for (int saver = 0; saver < savers; ++saver)
+        processes.push_back(test::start([&] {
+            for (int i = 0; i < savesEach; ++i)
+                save(file.text, std::string(30000, static_cast<char>('a' + saver)));
+            return true;
+        }));
+    for (const pid_t process : processes) {
+        // Whoever looks while the others still save sees a whole file too.
+        for (int look = 0; look < 20; ++look) {
+            const std::string seen = test::bytesOf(file.path);
+            ASSERT_EQ(seen.size(), 30001u);
+            ASSERT_EQ(seen, std::string(30000, seen[0]) + '\0');
+        }
+        EXPECT_TRUE(test::endedWell(process)) << "each of the saves must go through";
+    }
+    EXPECT_EQ(test::namesIn(file.folder.Path()).size(), 1u);
 }
 
 } // namespace

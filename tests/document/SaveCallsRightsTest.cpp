@@ -2,6 +2,7 @@
 #include "document/clsKorvelWFile.h"
 #include "tests/document/Files.h"
 #include "tests/document/Processes.h"
+#include "tests/document/SystemCalls.h"
 
 #include <gtest/gtest.h>
 
@@ -99,6 +100,7 @@ TEST(SaveCallsRights, WhileItIsWrittenNobodyElseReadsAPrivateFile) {
     for (const std::string& name : namesIn(file.folder.Path()))
         EXPECT_EQ(factsOf(file.folder.Path() / name).st_mode & 0077, 0u) << name;
     EXPECT_EQ(namesIn(file.folder.Path()).size(), 2u);
+    EXPECT_EQ(test::SystemCalls::LastCreated(), 0600u) << "from the first moment on";
 }
 
 TEST(SaveCallsRights, AFileKeepsItsOwnerAndGroup) {
@@ -255,6 +257,24 @@ TEST(SaveCallsRights, AFileOfTwoNamesKeepsBoth) {
     save(file.text);
     EXPECT_EQ(bytesOf(file.folder.Path() / "ander.vtx"), newContent);
     EXPECT_EQ(fs::hard_link_count(file.path), 2u);
+}
+
+TEST(SaveCallsRights, AFileThatVanishesWhileItIsWrittenIsThereAgain) {
+    const OneFile file;
+    putBytes(file.path, oldContent);
+    SaveCalls& calls = PlatformSaveCalls();
+    const SaveCalls::File open = *calls.OpenToWrite(file.path);
+    EXPECT_TRUE(calls.IsReplaceable(open));
+    fs::remove(file.path);
+    EXPECT_TRUE(calls.IsReplaceable(open)) << "what is written into it would be lost";
+    calls.Close(open);
+    putBytes(file.path, oldContent);
+    clsKorvelWFile writer;
+    writer.OpenFile(file.text);
+    writer.writeLong(1);
+    fs::remove(file.path);
+    writer.CloseFile();
+    EXPECT_EQ(bytesOf(file.path), newContent);
 }
 
 TEST(SaveCallsRights, WhatAKilledSaveLeftIsRemoved) {

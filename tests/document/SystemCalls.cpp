@@ -16,6 +16,7 @@ bool watching = false;
 int called = 0;
 int failingCall = 0;
 int failingError = 0;
+mode_t lastCreated = 0;
 
 bool fails() {
     if (!watching || ++called != failingCall)
@@ -78,6 +79,7 @@ extern "C" int open(const char* path, int flags, ...) {
         va_start(arguments, flags);
         mode = va_arg(arguments, mode_t);
         va_end(arguments);
+        lastCreated = mode;
     }
     return fails() ? -1 : real(path, flags, mode);
 }
@@ -94,6 +96,10 @@ void SystemCalls::Watch(int failing, int error) {
 int SystemCalls::Stop() {
     watching = false;
     return called;
+}
+
+unsigned SystemCalls::LastCreated() {
+    return lastCreated;
 }
 
 } // namespace veltrix::test

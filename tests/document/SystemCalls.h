@@ -9,6 +9,9 @@ struct SystemCalls {
 
     /// Ends the counting; how many calls there were.
     static int Stop();
+
+    /// The rights that the last file was created with that this process created.
+    static unsigned LastCreated();
 };
 
 } // namespace veltrix::test
