@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
+#include <cstring>
 #include <utility>
 
 namespace veltrix {
@@ -22,14 +24,21 @@ QAudioFormat formatFor(const QAudioDevice& device) {
 } // namespace
 
 std::int32_t PeakOf(const QByteArray& buffer, const QAudioFormat& format) {
-    const int size = format.bytesPerSample();
-    if (size <= 0)
-        return 0;
-    float peak = 0;
-    for (qsizetype i = 0; i + size <= buffer.size(); i += size)
-        peak = std::max(peak, std::abs(format.normalizedSampleValue(buffer.constData() + i)));
     constexpr float fullScale = 32768;
-    return static_cast<std::int32_t>(std::lround(std::min(peak, 1.0F) * fullScale));
+    const qsizetype size = format.bytesPerSample();
+    std::int32_t peak = 0;
+    for (qsizetype i = 0; size > 0 && i + size <= buffer.size(); i += size) {
+        const char* const at = buffer.constData() + i;
+        if (format.sampleFormat() == QAudioFormat::Int16) {
+            std::int16_t sample = 0;
+            std::memcpy(&sample, at, sizeof sample);
+            peak = std::max(peak, std::abs(std::int32_t{sample}));
+        } else {
+            const float sample = std::min(std::abs(format.normalizedSampleValue(at)), 1.0F);
+            peak = std::max(peak, static_cast<std::int32_t>(std::lround(sample * fullScale)));
+        }
+    }
+    return peak;
 }
 
 SoundCapture::SoundCapture(const QAudioDevice& device, Heard heard)

@@ -19,6 +19,9 @@ public:
     /// The width that the bar moves to.
     [[nodiscard]] double Level() const noexcept { return level_; }
 
+    /// The width that it has by now.
+    [[nodiscard]] double Shown() const noexcept { return shown_; }
+
     /// Moves the bar on by one step; to be called every 10 ms.
     void Step();
 
