@@ -69,8 +69,10 @@ void BoardWidget::matchScale() {
     // there are signals.
     if (form_->Pictor1.Scale() == devicePixelRatioF())
         return;
-    form_->Pictor1.Restart(devicePixelRatioF());
-    form_->Pictor1.Refresh();
+    edge_->Mouse([this](FORM1& form) {
+        form.Pictor1.Restart(devicePixelRatioF());
+        form.Pictor1.Refresh();
+    });
     update();
 }
 
@@ -80,7 +82,7 @@ void BoardWidget::mousePressEvent(QMouseEvent* event) {
         return;
     const Point at = boardPixel(event->position());
     edge_->Mouse([&](FORM1& form) { form.Pictor1_MouseDown(*button, at.x, at.y); });
-    showShape(at.x, at.y);
+    edge_->Mouse([&](FORM1& form) { showShape(form.Pictor1_ShapeAt(at.x, at.y)); });
 }
 
 void BoardWidget::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -101,7 +103,7 @@ void BoardWidget::mouseMoveEvent(QMouseEvent* event) {
         return;
     const Point at = boardPixel(event->position());
     edge_->Mouse([&](FORM1& form) { form.Pictor1_MouseMove(at.x, at.y); });
-    showShape(at.x, at.y);
+    edge_->Mouse([&](FORM1& form) { showShape(form.Pictor1_ShapeAt(at.x, at.y)); });
 }
 
 void BoardWidget::leaveEvent(QEvent* event) {
@@ -110,8 +112,7 @@ void BoardWidget::leaveEvent(QEvent* event) {
     QWidget::leaveEvent(event);
 }
 
-void BoardWidget::showShape(std::int32_t x, std::int32_t y) {
-    const PointerShape shape = form_->Pictor1_ShapeAt(x, y);
+void BoardWidget::showShape(PointerShape shape) {
     if (shape == shape_)
         return;
     shape_ = shape;

@@ -30,7 +30,7 @@ protected:
 
 private:
     void matchScale();
-    void showShape(std::int32_t x, std::int32_t y);
+    void showShape(PointerShape shape);
 
     FORM1* form_ = nullptr;
     EventEdge* edge_ = nullptr;
