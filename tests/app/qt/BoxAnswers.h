@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/app/qt/PrintTo.h"
+
 #include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -27,8 +29,8 @@ public:
     struct Seen {
         QString title;
         QString text;
-        QStringList buttons;
-        QString standard; ///< the button that Enter presses
+        QStringList buttons; ///< by the alphabet, since their order is the desktop's to choose
+        QString standard;    ///< the button that Enter presses
         QMessageBox::Icon icon = QMessageBox::NoIcon;
         Qt::TextFormat format = Qt::AutoText;
     };
@@ -36,7 +38,6 @@ public:
     struct SeenFiles {
         QString title;
         QStringList filters;
-        QStringList labels; ///< of the buttons and fields
         QString folder;
         QString name; ///< already filled in
         bool saves = false;
@@ -100,6 +101,7 @@ private:
             Seen seen{box->windowTitle(), box->text(), {}, {}, box->icon(), box->textFormat()};
             for (QAbstractButton* button : box->buttons())
                 seen.buttons << button->text();
+            seen.buttons.sort();
             if (box->defaultButton() != nullptr)
                 seen.standard = box->defaultButton()->text();
             boxes.push_back(seen);
@@ -112,16 +114,10 @@ private:
             auto* files = qobject_cast<QFileDialog*>(&dialog);
             if (files == nullptr)
                 return refuse(dialog);
-            SeenFiles seen{files->windowTitle(),
-                           files->nameFilters(),
-                           {},
+            SeenFiles seen{files->windowTitle(), files->nameFilters(),
                            files->directory().absolutePath(),
                            files->findChild<QLineEdit*>("fileNameEdit")->text(),
                            files->acceptMode() == QFileDialog::AcceptSave};
-            for (const auto label :
-                 {QFileDialog::LookIn, QFileDialog::FileName, QFileDialog::FileType,
-                  QFileDialog::Accept, QFileDialog::Reject})
-                seen.labels << files->labelText(label);
             dialogs.push_back(seen);
             answer(*files);
         });

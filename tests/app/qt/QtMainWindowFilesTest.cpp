@@ -140,11 +140,14 @@ TEST_F(QtMainWindowFiles, ASaveThatFailsIsToldAndKeepsTheBoardUnsaved) {
     EXPECT_FALSE(window.close());
 }
 
-TEST_F(QtMainWindowFiles, OpeningWhatIsNoFileChangesNothingAndSaysNothing) {
+TEST_F(QtMainWindowFiles, AFileThatIsNoBoardOpensAsABoardWithoutWires) {
     DrawWire("Drukknop 1 Uit Geel", "LED 1 Ingang");
-    program.commandLine = Utf8FromPath(folder.Path());
-    edge.Command([&](FORM1& running) { running.Document_Drop(program.commandLine); });
-    EXPECT_EQ(Wires(), 1);
+    putBytes(Path("brief.vtx"), "Beste ouders,");
+    answers.Choose(Chosen("brief.vtx"));
+    Choose("mnuOpenen");
+    EXPECT_EQ(Wires(), 0);
+    EXPECT_EQ(window.windowTitle(), "Veltrix versie 2.0 - brief.vtx");
+    EXPECT_FALSE(Item("mnuUndo").isEnabled());
 }
 
 TEST_F(QtMainWindowFiles, ABoardThatIsDroppedIsOpened) {
@@ -166,11 +169,18 @@ TEST_F(QtMainWindowFiles, OtherThingsThatAreDroppedAreRefused) {
     EXPECT_EQ(Wires(), 0);
 }
 
-TEST_F(QtMainWindowFiles, ADroppedBoardThatIsGoneIsToldOf) {
+TEST_F(QtMainWindowFiles, ADropThatCannotBeReadIsToldOfAndChangesNothing) {
+    DrawWire("Drukknop 1 Uit Geel", "LED 1 Ingang");
     answers.Press("OK");
     EXPECT_TRUE(Drop({QUrl::fromLocalFile(Chosen("weg.vtx"))}));
-    ASSERT_EQ(answers.boxes.size(), 1U);
+    create_directory(Path("map.vtx"));
+    answers.Press("OK");
+    EXPECT_TRUE(Drop({QUrl::fromLocalFile(Chosen("map.vtx"))}));
+    ASSERT_EQ(answers.boxes.size(), 2U);
     EXPECT_TRUE(answers.boxes[0].text.contains("bestaat niet (meer)"));
+    EXPECT_TRUE(answers.boxes[1].text.contains("dit is een map"));
+    EXPECT_EQ(Wires(), 1);
+    EXPECT_EQ(window.windowTitle(), "Veltrix versie 2.0");
 }
 
 TEST_F(QtMainWindowFiles, AnUnchangedBoardClosesWithoutAQuestion) {
@@ -185,7 +195,7 @@ TEST_F(QtMainWindowFiles, AChangedBoardAsksWhatToDoWithIt) {
     ASSERT_EQ(answers.boxes.size(), 1U);
     EXPECT_EQ(answers.boxes[0].text, "Dit veltrix bewaren?");
     EXPECT_EQ(answers.boxes[0].title, "Veltrix versie 2.0");
-    EXPECT_EQ(answers.boxes[0].buttons, (QStringList{"Ja", "Nee", "Annuleren"}));
+    EXPECT_EQ(answers.boxes[0].buttons, (QStringList{"Annuleren", "Ja", "Nee"}));
     EXPECT_EQ(answers.boxes[0].standard, "Ja");
     answers.Close();
     EXPECT_FALSE(window.close()) << "closing the box is no answer";
@@ -212,10 +222,9 @@ TEST_F(QtMainWindowFiles, SavingOnTheWayOutKeepsTheWindowOpen) {
 
 TEST_F(QtMainWindowFiles, ASaveThatFailsOnTheWayOutKeepsTheWindowOpen) {
     Click("Drukknop 1");
-    create_directory(Path("map.vtx"));
     answers.Press("Ja");
     answers.Choose(Chosen("weg/bel.vtx"));
-    answers.Press("OK"); // the dialog finds no such folder
+    answers.Press("OK");
     EXPECT_FALSE(window.close());
     EXPECT_FALSE(program.ended);
 }
@@ -239,7 +248,7 @@ TEST_F(QtMainWindowFiles, AfterTheEndNothingHappensAnyMore) {
     EXPECT_TRUE(window.close());
     Click("Drukknop 1");
     Choose("mnuVerwijderVerbindingen");
-    Key(Qt::Key_Escape);
+    QTest::keyClick(&window, Qt::Key_Escape);
     RunTicks(2);
     EXPECT_TRUE(window.close());
     EXPECT_FALSE(PushButtons()[0].Value());

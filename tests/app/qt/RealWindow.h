@@ -1,6 +1,8 @@
 #pragma once
 
+#include "app/qt/QtAboutWindow.h"
 #include "app/qt/QtDialogs.h"
+#include "app/qt/QtHelpWindow.h"
 #include "app/qt/QtMainWindow.h"
 #include "app/qt/QtPlatform.h"
 #include "tests/app/qt/BoxAnswers.h"
@@ -16,10 +18,23 @@
 #include <QTest>
 #include <QWindow>
 
+#include <optional>
 #include <stdexcept>
 #include <string>
 
 namespace veltrix::test {
+
+/// The main window, on a screen that may have another scale than the one it is on.
+class ScaledWindow : public QtMainWindow {
+public:
+    using QtMainWindow::QtMainWindow;
+
+    [[nodiscard]] double Scale() const override {
+        return ScreenScale.value_or(QtMainWindow::Scale());
+    }
+
+    std::optional<double> ScreenScale;
+};
 
 /// The real window with the whole program behind it, put together as main does. Only what would
 /// make one run differ from the next is memory: the clock, which the test turns, and the sound.
@@ -34,22 +49,31 @@ struct RealWindow {
     FakeSoundInputs sound;
     FakeWaveInputsViews waveInputs;
     FakeProgramStart programs;
+    FakeShell shell;
+    FakeFileTypes fileTypes;
     FakeSoundPlayer player;
     KeptLog log;
-    QtMainWindow window{VELTRIX_APPLICATION_FOLDER};
+    ScaledWindow window{VELTRIX_APPLICATION_FOLDER};
     QtMessageBox messages{window};
     QtFileDialog files{window};
     QtFaultNotice notice{window};
+    QtAboutWindows aboutWindows{window, program.folder};
+    QtHelpWindows helpWindows{program.folder};
     QtPointer pointer{window.Surface(), *window.menuBar()};
     FORM1 form{{window, program, window, window, messages, files, timer, clock, pointer,
-                sound.Captures(), sound.settings, waveInputs, programs, player, log}};
+                sound.Captures(), sound.settings, waveInputs, programs, aboutWindows, helpWindows,
+                shell, fileTypes, player, log}};
     EventEdge edge{form, messages, notice, log};
     int ticks = 0;
 
-    void Start(const std::string& commandLine = {}) {
+    void Load(const std::string& commandLine = {}) {
         program.commandLine = commandLine;
         window.Connect(form, edge);
         edge.Command([](FORM1& starting) { starting.Form_Load(); });
+    }
+
+    void Start(const std::string& commandLine = {}) {
+        Load(commandLine);
         if (!QTest::qWaitForWindowExposed(&window, 60000))
             throw std::runtime_error("the window does not show");
     }
@@ -87,6 +111,8 @@ struct RealWindow {
     }
 
     void MoveTo(const std::string& snap) {
+        // A pointer that is there already would make no event.
+        QTest::mouseMove(window.windowHandle(), InWindow(snap) + QPoint(1, 1));
         QTest::mouseMove(window.windowHandle(), InWindow(snap));
     }
 
@@ -110,6 +136,9 @@ struct RealWindow {
     }
 
     void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        // Without a window manager nobody gives the keyboard back after a dialog.
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window, 60000));
         QTest::keyClick(window.windowHandle(), key, modifiers);
     }
 

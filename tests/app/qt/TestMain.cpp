@@ -11,15 +11,26 @@ namespace {
 /// another test left behind shows in a window.
 void liveIn(const std::filesystem::path& home) {
     qputenv("HOME", home.c_str());
-    for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
+    for (const char* name :
+         {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
+        std::filesystem::create_directory(home / name);
+        std::filesystem::permissions(home / name, std::filesystem::perms::owner_all);
         qputenv(name, (home / name).c_str());
+    }
     qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+}
+
+/// The platform without a screen tells of every window that it knows no hints of sizes.
+void pass(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    if (!message.contains("propagateSizeHints"))
+        qt_message_output(type, context, message);
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
+    qInstallMessageHandler(pass);
     const veltrix::test::TempFolder home;
     liveIn(home.Path());
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
