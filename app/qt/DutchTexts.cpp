@@ -21,6 +21,12 @@ constexpr Text keys[] = {
 
 // A text means the same wherever the toolkit uses it, so where does not matter.
 constexpr Text texts[] = {
+    // What is asked for as a text and is none
+    {"QT_LAYOUT_DIRECTION", "LTR"},
+    {"Alt+Left", "Alt+Left"},
+    {"Alt+Right", "Alt+Right"},
+    {"Alt+Up", "Alt+Up"},
+
     // Standard buttons
     {"OK", "OK"},
     {"&OK", "OK"},

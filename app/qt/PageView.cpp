@@ -137,10 +137,11 @@ void PageView::follow(const QUrl& link) {
 void PageView::setZoom(int percent) {
     zoom_ = percent;
     const QTextCursor top = cursorForPosition(QPoint(0, 0));
+    const int before = cursorRect(top).top();
     QFont larger = font();
     larger.setPointSizeF(pointSize * percent / 100);
     setFont(larger);
-    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(top).top());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(top).top() - before);
 }
 
 } // namespace veltrix

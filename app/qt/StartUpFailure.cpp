@@ -32,7 +32,7 @@ StartUpFailure::StartUpFailure() {
 }
 
 StartUpFailure::~StartUpFailure() {
-    qInstallMessageHandler(nullptr);
+    qInstallMessageHandler(usual);
     if (!firstComplaint.isEmpty())
         qWarning("%s", qUtf8Printable(firstComplaint)); // it was not the end after all
 }

@@ -16,6 +16,7 @@
 #include "board/AppPath.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <QMenuBar>
 
 #include <cstdlib>
@@ -31,6 +32,8 @@ int main(int argc, char** argv) {
     std::optional<StartUpFailure> failure(std::in_place);
     QApplication application(argc, argv);
     failure.reset();
+    // What the desktop calls a type of file, and how it writes a date, is Dutch as all the rest.
+    QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
     DutchTexts dutch;
     QApplication::installTranslator(&dutch);
     QtProgram program;

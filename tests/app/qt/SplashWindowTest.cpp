@@ -1,4 +1,5 @@
 #include "app/qt/SplashWindow.h"
+#include "tests/app/qt/PaintWatch.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/TempFolder.h"
 
@@ -39,6 +40,39 @@ TEST(SplashWindow, DoesWithoutItsPicture) {
     SplashWindow splash(folder.Path());
     splash.show();
     EXPECT_EQ(splash.size(), QSize(300, 300));
+}
+
+TEST(SplashWindow, IsPaintedBeforeTheStartGoesOn) {
+    const TempFolder folder;
+    SplashWindow splash(folder.Path());
+    const PaintWatch watch(splash);
+    splash.ShowPainted();
+    EXPECT_TRUE(splash.isVisible());
+    EXPECT_GE(watch.Times, 1);
+}
+
+TEST(SplashWindow, ADesktopThatDoesNotShowItDoesNotStopTheStart) {
+    const TempFolder folder;
+    SplashWindow splash(folder.Path());
+    splash.setUpdatesEnabled(false);
+    const PaintWatch watch(splash);
+    splash.ShowPainted();
+    EXPECT_EQ(watch.Times, 0);
+}
+
+TEST(SplashWindow, ItsWordsStandOutAgainstTheDarkOfThePicture) {
+    SplashWindow splash(VELTRIX_APPLICATION_FOLDER);
+    const QImage picture = splash.grab(QRect(0, 260, 300, 40)).toImage();
+    int light = 0;
+    int dark = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x) {
+            const int lightness = picture.pixelColor(x, y).lightness();
+            light += lightness > 200 ? 1 : 0;
+            dark += lightness < 80 ? 1 : 0;
+        }
+    EXPECT_GT(light, 50);
+    EXPECT_GT(dark, picture.width() * picture.height() * 8 / 10);
 }
 
 } // namespace

@@ -39,5 +39,7 @@ int main(int argc, char** argv) {
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication::setStyle("Fusion");
     const QApplication application(argc, argv);
+    // A test that closes its only window must not end the event loops of all that follow.
+    QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
 }
