@@ -108,7 +108,7 @@ class Desktop:
         read, write = os.pipe()
         with open(read, encoding="ascii") as number:
             self.start("Xvfb", "-displayfd", str(write), "-screen", "0", "1600x1300x24",
-                       "-nolisten", "tcp", pass_fds=[write])
+                       "-nolisten", "tcp", "-noreset", pass_fds=[write])
             os.close(write)
             return int(number.readline())
 

@@ -67,7 +67,6 @@ protected:
 };
 
 TEST_F(Buzzer, SoundsAndFallsSilentWithTheState) {
-    startServer();
     RealSound real;
     RingingBoard ringing(real.sound->Player());
     Recording recording;
@@ -86,7 +85,6 @@ TEST_F(Buzzer, SoundsAndFallsSilentWithTheState) {
 }
 
 TEST_F(Buzzer, RingsOnBeyondTheLengthOfItsFile) {
-    startServer();
     RealSound real;
     RingingBoard ringing(real.sound->Player());
     Recording recording;
@@ -104,7 +102,6 @@ TEST_F(Buzzer, RingsOnBeyondTheLengthOfItsFile) {
 }
 
 TEST_F(Buzzer, ManyChangesEndWithTheLast) {
-    startServer();
     RealSound real;
     RingingBoard ringing(real.sound->Player());
     Recording recording;
@@ -116,7 +113,6 @@ TEST_F(Buzzer, ManyChangesEndWithTheLast) {
 }
 
 TEST_F(Buzzer, AServerThatHangsHoldsUpNoTick) {
-    startServer();
     RealSound real;
     RingingBoard ringing(real.sound->Player());
     server->Stop();
@@ -130,7 +126,6 @@ TEST_F(Buzzer, AServerThatHangsHoldsUpNoTick) {
 }
 
 TEST_F(Buzzer, MissingWaveFilesAreToldOnceEach) {
-    startServer();
     const test::TempFolder nothing;
     RealSound real(nothing.Path());
     RingingBoard ringing(real.sound->Player());
@@ -144,7 +139,6 @@ TEST_F(Buzzer, MissingWaveFilesAreToldOnceEach) {
 }
 
 TEST_F(Buzzer, WithoutTheSilentFileItFallsSilentToo) {
-    startServer();
     const test::TempFolder folder;
     std::filesystem::copy(VELTRIX_APPLICATION_FOLDER "/Ringin.wav", folder.Path());
     RealSound real(folder.Path());

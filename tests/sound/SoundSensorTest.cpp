@@ -12,7 +12,7 @@ using test::waitUntil;
 using SoundSensorOn = test::SoundTest;
 
 TEST_F(SoundSensorOn, AToneMovesTheLevelUpAndItsEndDown) {
-    startServer({"Mic"});
+    plugIn({"Mic"});
     RealSound real;
     ASSERT_TRUE(real.Hears(1));
     EXPECT_EQ(real.wi.GetVolume(), 0);
@@ -25,12 +25,15 @@ TEST_F(SoundSensorOn, AToneMovesTheLevelUpAndItsEndDown) {
     }
     EXPECT_TRUE(real.LevelBecomes(0));
     const Tone quiet("Mic", 0.25);
-    EXPECT_TRUE(real.LevelBecomes(25));
+    EXPECT_TRUE(waitUntil([&] {
+        const std::int32_t half = real.wi.GetVolume();
+        return half > 20 && half < 30;
+    }));
     EXPECT_TRUE(real.log.Lines.empty());
 }
 
 TEST_F(SoundSensorOn, OnlyTheFirstInputMovesIt) {
-    startServer({"Mic", "Webcam"});
+    plugIn({"Mic", "Webcam"});
     RealSound real;
     ASSERT_TRUE(real.Hears(2));
     const Tone tone("Webcam");
@@ -44,7 +47,7 @@ TEST_F(SoundSensorOn, OnlyTheFirstInputMovesIt) {
 }
 
 TEST_F(SoundSensorOn, InputsAreListedByName) {
-    startServer({"Mic", "Webcam"});
+    plugIn({"Mic", "Webcam"});
     RealSound real;
     ASSERT_TRUE(real.Hears(2));
     EXPECT_EQ(real.wi.GetWaveName(1), "Mic");
@@ -55,7 +58,7 @@ TEST_F(SoundSensorOn, InputsAreListedByName) {
 }
 
 TEST_F(SoundSensorOn, OfTwentyInputsFiveAreHeard) {
-    startServer({"Mic"});
+    plugIn({"Mic"});
     for (int i = 2; i <= 20; ++i)
         server->AddInput("Mic" + QString::number(i), "Mic");
     RealSound real;
@@ -68,7 +71,7 @@ TEST_F(SoundSensorOn, OfTwentyInputsFiveAreHeard) {
 }
 
 TEST_F(SoundSensorOn, AnInputThatVanishesIsToldOnceAndComesBack) {
-    startServer({"Mic", "Webcam"});
+    plugIn({"Mic", "Webcam"});
     RealSound real;
     ASSERT_TRUE(real.Hears(2));
     {
@@ -94,7 +97,9 @@ TEST_F(SoundSensorOn, AnInputThatVanishesIsToldOnceAndComesBack) {
 /// Opening an input that the server refuses does not come back. The program is then left without
 /// waiting, so what happens until there happens in a process of its own.
 void hearBesideAnInputThatCannotBeOpened() {
-    test::SoundServer server({"Webcam", "Mic"});
+    test::SoundServer server;
+    server.AddInput("Webcam");
+    server.AddInput("Mic");
     RealSound real;
     real.timer1.stop(); // the test is the timer
     AudioTap2& first = *real.sound->Captures()[0];
@@ -113,13 +118,12 @@ void hearBesideAnInputThatCannotBeOpened() {
 }
 
 TEST_F(SoundSensorOn, AnInputThatCannotBeOpenedSpoilsNothing) {
-    startServer();
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_EXIT(hearBesideAnInputThatCannotBeOpened(), testing::ExitedWithCode(0), "");
 }
 
 TEST_F(SoundSensorOn, AServerThatIsStartedAnewIsHeardAgain) {
-    startServer({"Mic"});
+    plugIn({"Mic"});
     RealSound real;
     ASSERT_TRUE(real.Hears(1));
     {
@@ -135,7 +139,7 @@ TEST_F(SoundSensorOn, AServerThatIsStartedAnewIsHeardAgain) {
 }
 
 TEST_F(SoundSensorOn, AServerThatHangsFromTheStartIsTakenWhenItAnswers) {
-    startServer({"Mic"});
+    plugIn({"Mic"});
     server->Stop();
     RealSound real;
     EXPECT_TRUE(waitUntil([&] { return real.ticks > 50; })) << "the timer must tick";
@@ -149,7 +153,7 @@ TEST_F(SoundSensorOn, AServerThatHangsFromTheStartIsTakenWhenItAnswers) {
 }
 
 TEST_F(SoundSensorOn, AServerThatHangsLaterIsTakenBack) {
-    startServer({"Mic", "Webcam"});
+    plugIn({"Mic", "Webcam"});
     RealSound real;
     ASSERT_TRUE(real.Hears(2));
     std::optional<Tone> tone("Mic");
@@ -181,17 +185,11 @@ TEST_F(SoundSensorOn, AMachineWithoutAServerIsSilent) {
     EXPECT_LE(real.log.Lines.size(), 1U);
 }
 
-TEST(SoundWithAServerThatHangs, EndsAndSaysThatItDoesNotComeBack) {
-    std::optional<test::SoundServer> server;
-    try {
-        server.emplace();
-    } catch (const std::runtime_error& error) {
-        GTEST_SKIP() << error.what();
-    }
+TEST_F(SoundSensorOn, AServerThatHangsKeepsNobodyFromLeaving) {
     server->Stop();
     test::KeptLog log;
     const auto sound = MakeSound(VELTRIX_APPLICATION_FOLDER, log);
-    EXPECT_FALSE(sound->Close());
+    EXPECT_FALSE(sound->Close()) << "a part of it is still with the server";
     server->Continue();
     EXPECT_TRUE(waitUntil([&] { return sound->Close(); }));
 }

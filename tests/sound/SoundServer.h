@@ -16,16 +16,12 @@
 
 namespace veltrix::test {
 
-/// A sound server that only this process can reach, with a loudspeaker that nobody hears ("out")
-/// and one sound input for each name. The program under test finds it by the environment.
+/// A sound server of this test's own, with a loudspeaker that nobody hears ("out"), and no input.
+/// The program under test finds it by the environment.
 class SoundServer {
 public:
     /// Throws std::runtime_error when no server can be started here.
-    explicit SoundServer(const QStringList& inputs = {}) {
-        start();
-        for (const QString& name : inputs)
-            AddInput(name);
-    }
+    SoundServer() { start(); }
 
     ~SoundServer() {
         if (server_.state() == QProcess::NotRunning)

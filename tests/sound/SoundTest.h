@@ -23,12 +23,17 @@ namespace veltrix::test {
 /// A test that needs a sound server. Where none can be started, it says why and is skipped.
 class SoundTest : public testing::Test {
 protected:
-    void startServer(const QStringList& inputs = {}) {
+    void SetUp() override {
         try {
-            server.emplace(inputs);
+            server.emplace();
         } catch (const std::runtime_error& error) {
             GTEST_SKIP() << error.what();
         }
+    }
+
+    void plugIn(const QStringList& inputs) {
+        for (const QString& name : inputs)
+            server->AddInput(name);
     }
 
     std::optional<SoundServer> server;
