@@ -1,7 +1,5 @@
 #include "app/FORM1.h"
 
-#include <exception>
-
 namespace veltrix {
 
 FORM1::FORM1(const Desktop& desktop)
@@ -34,17 +32,16 @@ void FORM1::Form_Load() {
     desktop_.Window.Show();
     desktop_.TheFileTypes.RegisterFileType();
 
-    // A document that cannot be read must not keep the board from starting.
-    std::exception_ptr unreadable;
     try {
         files_.OpenFromCommandLine(desktop_.TheProgram.CommandLine());
     } catch (...) {
-        unreadable = std::current_exception();
+        // A document that cannot be read must not keep the board from running. Recording it may
+        // fail as well, when it is too large for an undo state.
+        desktop_.Timer1.SetEnabled(true);
         Undo_AddThisState();
+        throw;
     }
     desktop_.Timer1.SetEnabled(true);
-    if (unreadable)
-        std::rethrow_exception(unreadable);
 }
 
 void FORM1::mnuGeluidSensor_Click() {

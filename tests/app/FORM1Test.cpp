@@ -103,6 +103,29 @@ TEST_F(FORM1Test, ADocumentThatBreaksOffInAnErrorDoesNotKeepTheBoardFromStarting
     EXPECT_TRUE(desktop.notice.shown.empty());
 }
 
+TEST_F(FORM1Test, ADocumentTooLargeForAnUndoStateDoesNotKeepTheBoardFromRunning) {
+    const TempFolder folder;
+    const std::string path = Utf8FromPath(folder.Path() / "vol.vtx");
+    {
+        TestBoard made;
+        for (int i = 0; i < 2000; ++i)
+            made.board.AddLine("Pulsenteller Tel pulsen (In)", "LED 1 Ingang");
+        clsKorvelWFile file;
+        file.OpenFile(path);
+        WriteTo(made.board, file);
+        file.CloseFile();
+    }
+    desktop.edge.Command([&](FORM1& form) {
+        desktop.program.commandLine = path;
+        form.Form_Load();
+    });
+    EXPECT_EQ(desktop.messages.shown.size(), 1U);
+    EXPECT_EQ(desktop.Wires(), 2000);
+    ASSERT_TRUE(desktop.timer.enabled);
+    desktop.RunTicks(2);
+    EXPECT_TRUE(desktop.notice.shown.empty());
+}
+
 TEST_F(FORM1Test, APressedButtonLightsTheLedOfItsWire) {
     desktop.Start();
     desktop.DrawWire("Drukknop 1 Uit Geel", "LED 1 Ingang");
