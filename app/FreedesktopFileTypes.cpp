@@ -160,7 +160,7 @@ std::string FreedesktopFileTypes::DesktopEntry() const {
            "\n"
            "Icon=veltrix\n"
            "Terminal=false\n"
-           "Categories=Education;Science;Electronics;\n"
+           "Categories=Education;Electronics;\n"
            "MimeType=application/x-veltrix;\n"
            "StartupWMClass=veltrix\n";
 }
