@@ -3,8 +3,9 @@
 #include "board/AppPath.h"
 #include "document/modFileAssoc.h"
 
-#include <shellapi.h>
 #include <windows.h>
+
+#include <shellapi.h> // needs what the one before declares
 
 namespace veltrix {
 
