@@ -41,7 +41,7 @@ bool QtAudioTap::DeviceValid(std::int32_t i) {
 
 void QtAudioTap::Start() {
     sound_.Inputs().Want(index_);
-    sound_.OpenInputs();
+    emit sound_.InputsWanted();
 }
 
 std::int32_t QtAudioTap::Level() {
@@ -83,13 +83,9 @@ bool QtSound::Close() {
     return true;
 }
 
-void QtSound::OpenInputs() {
-    QMetaObject::invokeMethod(worker_, &SoundWorker::OpenInputs, Qt::QueuedConnection);
-}
-
 void QtSound::Play(const std::string& name) {
     if (wish_->Set(name))
-        QMetaObject::invokeMethod(worker_, &SoundWorker::PlayWish, Qt::QueuedConnection);
+        emit SoundWished();
 }
 
 void QtSound::startWorker() {
@@ -99,6 +95,9 @@ void QtSound::startWorker() {
     worker_->moveToThread(thread);
     connect(thread, &QThread::started, worker_, &SoundWorker::Begin);
     connect(thread, &QThread::finished, worker_, &QObject::deleteLater);
+    connect(worker_, &SoundWorker::Done, thread, &QThread::quit);
+    connect(this, &QtSound::InputsWanted, worker_, &SoundWorker::OpenInputs);
+    connect(this, &QtSound::SoundWished, worker_, &SoundWorker::PlayWish);
     connect(worker_, &SoundWorker::Fault, this,
             [this](const QString& line) { log_.Write(line.toStdString()); });
     thread->start();
@@ -114,6 +113,7 @@ void QtSound::replaceHangingWorker() {
     else if (inputs_->SetFailed(input, true))
         log_.Write("sound: input " + inputs_->Name(input) + " does not open");
     worker_->Abandon();
+    disconnect(worker_);
     startWorker();
 }
 

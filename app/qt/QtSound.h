@@ -67,10 +67,12 @@ public:
 
     [[nodiscard]] SoundInputs& Inputs() noexcept { return *inputs_; }
 
-    /// Has the inputs opened that are wanted.
-    void OpenInputs();
-
     void Play(const std::string& name);
+
+signals:
+    // What the worker is told; it finds the details where both can see them.
+    void InputsWanted();
+    void SoundWished();
 
 private:
     void startWorker();

@@ -16,7 +16,7 @@ namespace veltrix {
 
 namespace {
 
-constexpr int nameWidth = 260; // pixels; a longer name is shown shortened
+constexpr int nameWidth = 240; // pixels; a longer name is shown shortened
 
 /// A line of text that is shortened in its middle where there is no room for all of it: the end of
 /// a name tells whether the input can be used.

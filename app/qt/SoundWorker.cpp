@@ -1,7 +1,6 @@
 #include "app/qt/SoundWorker.h"
 
 #include <QMediaDevices>
-#include <QThread>
 
 #include <algorithm>
 #include <utility>
@@ -125,7 +124,7 @@ void SoundWorker::open(std::size_t device, const std::function<void()>& open) {
     open();
     openings_->End(device);
     if (abandoned_)
-        QMetaObject::invokeMethod(thread(), &QThread::quit, Qt::QueuedConnection);
+        emit Done();
 }
 
 std::unique_ptr<SoundCapture>& SoundWorker::capture(std::int32_t i) {

@@ -60,6 +60,9 @@ public:
 signals:
     void Fault(const QString& line);
 
+    /// An abandoned worker has come back, and may end.
+    void Done();
+
 private:
     void watch();
     void list();
