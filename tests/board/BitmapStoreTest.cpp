@@ -260,6 +260,18 @@ TEST(BitmapStore, APixelOutsideThePictureIsIgnored) {
         ASSERT_NE(pixel, green);
 }
 
+TEST(BitmapStore, AFileThatIsLoadedAgainComesWithoutThePixelsThatWereSet) {
+    Canvas canvas;
+    writePicture(canvas.folder.Path(), "\\x.bmp", plain(4, 3, red));
+    const std::int32_t edited = canvas.surface.LoadBitmap("\\x.bmp");
+    canvas.surface.SetBitmapPixel(edited, 0, 0, 0x00FF00);
+    canvas.surface.CreateSprite(edited);
+    const std::int32_t again = canvas.surface.CreateSprite(canvas.surface.LoadBitmap("\\x.bmp"));
+    canvas.surface.PlaceSprite(again, 10, 0);
+    EXPECT_EQ(canvas.shown(0, 0), green);
+    EXPECT_EQ(canvas.pixel(10, 0), red);
+}
+
 TEST(BitmapStore, BitmapsOfOneFileDoNotShareThePixelsThatAreSet) {
     Canvas canvas;
     writePicture(canvas.folder.Path(), "\\x.bmp", plain(4, 3, red));

@@ -568,6 +568,22 @@ TEST_F(clsGraphTest, TheAdConverterSplitsTheScaleIntoSixteenSteps) {
 
 // Circuits
 
+TEST_F(clsGraphTest, ARunGoesOnAfterAPassInWhichASingleModuleAddedItsOutput) {
+    const std::vector<std::string> outputs{
+        "OF-poort Uit",   "EN-poort Uit",   "Geheugen Uit",         "Invertor Uitgang",
+        "Comparator Uit", "Transistor Uit", "AD-omzetter Uitgang 1"};
+    for (const std::string& output : outputs) {
+        disconnectAll();
+        connect(output, "LED 1 Ingang");
+        Sockets others{{"Pulsenteller Uitgang Collection", 0}};
+        for (const std::string& other : outputs)
+            if (other != output)
+                others.push_back({other.c_str(), 0});
+        run(others);
+        EXPECT_EQ(levelOf("LED 1 Ingang"), output == "Invertor Uitgang" ? 50 : 0) << output;
+    }
+}
+
 TEST_F(clsGraphTest, AModuleInItsOwnLoopIsNeverReached) {
     connect("Invertor Uitgang", "Invertor Ingang");
     connect("Invertor Uitgang", "LED 1 Ingang");
