@@ -1,6 +1,7 @@
 #include "tests/sound/SoundTest.h"
 
 #include <cstdlib>
+#include <optional>
 
 namespace veltrix {
 namespace {
@@ -95,31 +96,33 @@ TEST_F(SoundSensorOn, AnInputThatVanishesIsToldOnceAndComesBack) {
 }
 
 /// Opening an input that the server refuses does not come back. The program is then left without
-/// waiting, so what happens until there happens in a process of its own.
-void hearBesideAnInputThatCannotBeOpened() {
-    test::SoundServer server;
-    server.AddInput("Webcam");
-    server.AddInput("Mic");
+/// waiting, so all of this happens in a process of its own.
+[[noreturn]] void hearBesideAnInputThatCannotBeOpened(std::optional<test::SoundServer>& server) {
+    server->AddInput("Webcam");
+    server->AddInput("Mic");
     RealSound real;
     real.timer1.stop(); // the test is the timer
     AudioTap2& first = *real.sound->Captures()[0];
     EXPECT_TRUE(waitUntil([&] { return first.DeviceCount() == 2; }));
     // The list may be asked for again between these two, or not: what is to be seen is the same.
-    server.RemoveInput("Webcam");
+    server->RemoveInput("Webcam");
     real.wi.Timer1_Timer();
     EXPECT_TRUE(waitUntil([&] { return !real.wi.GetWaveInValid(1); }));
-    const Tone tone("Mic");
-    EXPECT_TRUE(waitUntil([&] { return real.wi.GetWaveVolume(2) > 0; }));
-    EXPECT_EQ(real.wi.GetVolume(), 0);
+    {
+        const Tone tone("Mic");
+        EXPECT_TRUE(waitUntil([&] { return real.wi.GetWaveVolume(2) > 0; }));
+        EXPECT_EQ(real.wi.GetVolume(), 0);
+    }
     EXPECT_LE(real.Lines("Webcam"), 1);
     EXPECT_EQ(real.Lines("Mic"), 0);
     (void)real.sound->Close();
+    server.reset();
     std::_Exit(testing::Test::HasFailure() ? 1 : 0);
 }
 
 TEST_F(SoundSensorOn, AnInputThatCannotBeOpenedSpoilsNothing) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    EXPECT_EXIT(hearBesideAnInputThatCannotBeOpened(), testing::ExitedWithCode(0), "");
+    EXPECT_EXIT(hearBesideAnInputThatCannotBeOpened(server), testing::ExitedWithCode(0), "");
 }
 
 TEST_F(SoundSensorOn, AServerThatIsStartedAnewIsHeardAgain) {

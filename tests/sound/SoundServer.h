@@ -90,11 +90,12 @@ private:
         server_.setProcessEnvironment(environment);
         server_.setProcessChannelMode(QProcess::MergedChannels);
         const QString socket = folder + "/server";
-        server_.start("pulseaudio",
-                      {"-n", "--daemonize=no", "--use-pid-file=no", "--exit-idle-time=-1",
-                       "--realtime=no", "--high-priority=no", "-L",
-                       "module-native-protocol-unix auth-anonymous=1 socket=" + socket, "-L",
-                       "module-null-sink sink_name=out norewinds=1"});
+        // A test that is killed must not leave its server behind.
+        server_.start("setpriv", {"--pdeathsig", "KILL", "pulseaudio", "-n", "--daemonize=no",
+                                  "--use-pid-file=no", "--exit-idle-time=-1", "--realtime=no",
+                                  "--high-priority=no", "-L",
+                                  "module-native-protocol-unix auth-anonymous=1 socket=" + socket,
+                                  "-L", "module-null-sink sink_name=out norewinds=1"});
         if (!server_.waitForStarted())
             throw std::runtime_error("no pulseaudio can be started: " +
                                      server_.errorString().toStdString());

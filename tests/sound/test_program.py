@@ -49,8 +49,9 @@ class SoundServer:
                        "source_properties=device.description=Mic"]
             self.log = stack.enter_context(open(f"{folder}/log", "w+b"))
             try:
+                # A test that is killed must not leave its server behind.
                 self.process = subprocess.Popen(
-                    ["pulseaudio", "-n", "--daemonize=no", "--use-pid-file=no",
+                    ["setpriv", "--pdeathsig", "KILL", "pulseaudio", "-n", "--daemonize=no", "--use-pid-file=no",
                      "--exit-idle-time=-1", "--realtime=no", "--high-priority=no"] +
                     [word for module in modules for word in ("-L", module)],
                     env=environment, stdout=self.log, stderr=self.log)
