@@ -182,7 +182,9 @@ bool FreedesktopFileTypes::writeIcons() const {
     bool written = false;
     for (const int size : iconSizes) {
         const std::string pixels = std::to_string(size);
-        const fs::path folder = dataHome_ / "icons/hicolor" / (pixels + "x" + pixels);
+        std::string sizeFolder = pixels;
+        sizeFolder.append("x").append(pixels);
+        const fs::path folder = dataHome_ / "icons/hicolor" / sizeFolder;
         for (const Icon& icon : icons) {
             const auto content = contentOf(program_.parent_path() /
                                            (std::string(icon.source) + "-" + pixels + ".png"));
