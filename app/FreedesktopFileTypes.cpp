@@ -90,9 +90,9 @@ std::string keyValue(std::string_view text) {
     return value;
 }
 
-/// A path as the command of a desktop entry, in quotes. It is read in two steps: as a value, and
-/// that as words.
-std::string quotedCommand(std::string_view path) {
+/// A path as the command of a desktop entry. It is read in two steps: as a value, and that as
+/// words.
+std::string command(std::string_view path) {
     std::string word;
     for (const char unit : path) {
         if (std::string_view("\"`$\\").find(unit) != std::string_view::npos)
@@ -101,7 +101,9 @@ std::string quotedCommand(std::string_view path) {
             word += '%';
         word += unit;
     }
-    return '"' + keyValue(word) + '"';
+    // Quotes are allowed around every word, but the simplest of desktops do not know of them.
+    const bool plain = path.find_first_of(" \t\"'\\><~|&;$*?#()`") == std::string_view::npos;
+    return plain ? word : '"' + keyValue(word) + '"';
 }
 
 bool liesIn(const fs::path& file, const fs::path& folder) {
@@ -153,7 +155,7 @@ std::string FreedesktopFileTypes::DesktopEntry() const {
            "Comment=Build control systems on a simulated trainer board\n"
            "Comment[nl]=Bouw regelsystemen op een gesimuleerd systeembord\n"
            "Exec=" +
-           quotedCommand(program) +
+           command(program) +
            " %f\n"
            "TryExec=" +
            keyValue(program) +

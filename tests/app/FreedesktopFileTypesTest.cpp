@@ -84,7 +84,7 @@ TEST_F(FreedesktopFileTypesTest, WritesTheTypeTheEntryAndTheIcons) {
     EXPECT_THAT(files["mime/packages/veltrix.xml"], HasSubstr("type=\"application/x-veltrix\""));
     EXPECT_THAT(files["mime/packages/veltrix.xml"], HasSubstr("<glob pattern=\"*.vtx\"/>"));
     const std::string& entry = files["applications/veltrix.desktop"];
-    EXPECT_THAT(entry, HasSubstr("\nExec=\"" + Program().string() + "\" %f\n"));
+    EXPECT_THAT(entry, HasSubstr("\nExec=" + Program().string() + " %f\n"));
     EXPECT_THAT(entry, HasSubstr("\nTryExec=" + Program().string() + "\n"));
     EXPECT_THAT(entry, HasSubstr("\nMimeType=application/x-veltrix;\n"));
     EXPECT_EQ(files["icons/hicolor/48x48/apps/veltrix.png"], "window icon-48.png");
@@ -158,11 +158,12 @@ TEST_F(FreedesktopFileTypesTest, NoHalfFileStaysWhereOneCannotBeReplaced) {
         EXPECT_THAT(name, Not(HasSubstr("veltrix-new")));
 }
 
-TEST_F(FreedesktopFileTypesTest, TheCommandIsQuoted) {
-    EXPECT_EQ(Exec("/opt/veltrix"), "Exec=\"/opt/veltrix\" %f");
+TEST_F(FreedesktopFileTypesTest, TheCommandIsQuotedWhereItNeedsToBe) {
+    EXPECT_EQ(Exec("/opt/veltrix"), "Exec=/opt/veltrix %f");
+    EXPECT_EQ(Exec("/opt/één/veltrix"), "Exec=/opt/één/veltrix %f");
+    EXPECT_EQ(Exec("/opt/100%/veltrix"), "Exec=/opt/100%%/veltrix %f");
     EXPECT_EQ(Exec("/opt/mijn map/veltrix"), "Exec=\"/opt/mijn map/veltrix\" %f");
-    EXPECT_EQ(Exec("/opt/één/veltrix"), "Exec=\"/opt/één/veltrix\" %f");
-    EXPECT_EQ(Exec("/opt/100%/veltrix"), "Exec=\"/opt/100%%/veltrix\" %f");
+    EXPECT_EQ(Exec("/opt/a&b's (1)/veltrix"), "Exec=\"/opt/a&b's (1)/veltrix\" %f");
     EXPECT_EQ(Exec("/opt/\"$a`\\/veltrix"), R"(Exec="/opt/\\"\\$a\\`\\\\/veltrix" %f)");
 }
 
@@ -195,7 +196,7 @@ TEST_F(FreedesktopFileTypesTest, AnOldEntryOfTheUserWouldHideThatOfAll) {
     dataFolders = {share};
     Write();
     EXPECT_THAT(contentOf(Home() / "applications/veltrix.desktop"),
-                HasSubstr("Exec=\"" + Program().string() + "\" %f\n"));
+                HasSubstr("Exec=" + Program().string() + " %f\n"));
 }
 
 } // namespace
