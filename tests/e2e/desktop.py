@@ -5,19 +5,21 @@ Nothing here sleeps to let something happen: every step waits for what can be se
 limit only ends a test that has failed.
 """
 import contextlib
+import math
 import os
 import pathlib
 import re
 import shutil
 import subprocess
-import sys
 import tempfile
 import time
+import unittest
 
 import board_model
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 BUILD = pathlib.Path(os.environ.get("VELTRIX_BUILD", ROOT / "build/release"))
+SANITIZED = os.environ.get("VELTRIX_SANITIZED") == "ON"
 LIMIT = 100  # seconds, on the slowest of machines
 WIDTH, HEIGHT = 415, 376  # of the board
 TOOLS = {"Xvfb": "xvfb", "openbox": "openbox", "xdotool": "xdotool", "xprop": "x11-utils",
@@ -42,6 +44,11 @@ def until(what, condition):
         time.sleep(0.02)
 
 
+def whole(number):
+    """The nearest whole number, as a window's size is rounded."""
+    return math.floor(number + 0.5)
+
+
 class Picture:
     """Pixels, three bytes each."""
 
@@ -64,6 +71,11 @@ class Picture:
     def part(self, x, y, width, height):
         rows = (self.data[3 * (row * self.width + x):][:3 * width] for row in range(y, y + height))
         return Picture(width, height, b"".join(rows))
+
+    def mean(self):
+        """Its mean colour."""
+        return tuple(sum(self.data[colour::3]) / (self.width * self.height)
+                     for colour in range(3))
 
     def differences(self, other):
         """The places at which the two are not alike."""
@@ -93,6 +105,8 @@ class Desktop:
                          "XDG_CACHE_HOME"):
                 (self.folder / name).mkdir(mode=0o700)
                 self._environment[name] = str(self.folder / name)
+            self.files = self.folder / "één map"  # where programs start
+            self.files.mkdir()
             self._environment["LC_ALL"] = "C.UTF-8"
             self._environment["DISPLAY"] = f":{self._start_server()}"
             self.start("openbox")
@@ -114,7 +128,7 @@ class Desktop:
 
     def start(self, *command, environment=None, **more):
         """Starts a program that is ended with the desktop if it does not end before."""
-        streams = {"stdin": subprocess.DEVNULL, "stdout": subprocess.DEVNULL,
+        streams = {"cwd": self.files, "stdin": subprocess.DEVNULL, "stdout": subprocess.DEVNULL,
                    "stderr": subprocess.DEVNULL}
         process = subprocess.Popen(command, env=self._environment | (environment or {}),
                                    **(streams | more))
@@ -180,8 +194,8 @@ class Window:
         self.desktop.do("type", "--clearmodifiers", "--delay", "5", text)
 
     def close(self):
-        """As the cross in the title bar does."""
-        self.desktop.do("windowquit", self.number)
+        """As the window manager does for the cross in the title bar."""
+        self.keys("alt+F4")
 
     def picture(self):
         return self.desktop.picture(self.number)
@@ -190,35 +204,40 @@ class Window:
 class Veltrix(Window):
     """The program, with its main window. `arguments` are those of its command line."""
 
-    def __init__(self, desktop, *arguments, scale=1, title=None):
+    def __init__(self, desktop, *arguments, scale=1, title=r"Veltrix versie 2\.0"):
         self.scale = scale
         self._log = desktop.folder / "veltrix.log"
         with open(self._log, "wb") as log:
             self.process = desktop.start(BUILD / "veltrix", *map(str, arguments), stderr=log,
                                          environment={"QT_SCALE_FACTOR": str(scale)})
         super().__init__(desktop, None)
-        self.number = self.window(title or r"Veltrix versie 2\.0").number
+        self.number = self.window(title).number
         until("the first picture", lambda: len(set(self.picture().data)) > 2)
         width, height = self.size()
         # The bar's height is the style's to choose.
-        self.menu = height - round(HEIGHT * scale)
-        assert width == round(WIDTH * scale), f"the window is {width} pixels wide"
+        self.menu = height - whole(HEIGHT * scale)
+        assert width == whole(WIDTH * scale), f"the window is {width} pixels wide"
 
     def log(self):
         return self._log.read_text(errors="replace")
 
-    def windows(self, title=""):
+    def numbers(self, title=".*"):
+        """The numbers of its windows with a title, which is a regular expression."""
         found = self.desktop.ask("xdotool", "search", "--all", "--onlyvisible", "--pid",
-                                 str(self.process.pid), "--name", title)
-        return [Window(self.desktop, int(number)) for number in found.split()]
+                                 str(self.process.pid), "--name", f"^{title}$")
+        return {int(number) for number in found.split()}
 
     def window(self, title):
-        """Waits for a window with a title, which is a regular expression."""
+        """Waits for a window with a title beside the main one."""
         def look():
             if self.process.poll() is not None:
                 raise AssertionError(f"it ended with {self.process.returncode}: {self.log()}")
-            return self.windows(f"^{title}$")
-        return until(f"a window {title}", look)[0]
+            return self.numbers(title) - {self.number}
+        return Window(self.desktop, until(f"a window {title}", look).pop())
+
+    def alone(self):
+        """Waits until no other window of it is there."""
+        until("the end of the other windows", lambda: self.numbers() == {self.number})
 
     def ended(self):
         """Waits for its end and answers its status."""
@@ -229,7 +248,7 @@ class Veltrix(Window):
 
     def place(self, where):
         x, y = board_model.PLACE[where] if isinstance(where, str) else where
-        return round((x + 0.5) * self.scale), self.menu + round((y + 0.5) * self.scale)
+        return int((x + 0.5) * self.scale), self.menu + int((y + 0.5) * self.scale)
 
     def move(self, where):
         self.desktop.do("mousemove", "--window", self.number, *self.place(where))
@@ -241,13 +260,22 @@ class Veltrix(Window):
         self.click(first)
         self.click(second)
 
+    def choose(self, access, *steps):
+        """Opens a menu by its access key, walks to an item and chooses it. The walk begins at the
+        menu's first item and passes over those that are disabled."""
+        before = self.numbers()
+        self.keys(access)
+        menu = until("the menu", lambda: self.numbers() - before)
+        self.desktop.do("key", *steps, "Return")
+        until("the end of the menu", lambda: not self.numbers() & menu)
+
     def leave(self):
-        """Takes the pointer off the board, so that no ring is on it, and off the menu."""
+        """Takes the pointer off the window, so that no ring is on the board."""
         self.desktop.do("mousemove", 1, 1)
 
     def board(self):
         """What the screen shows of the board."""
-        return self.picture().part(0, self.menu, *(round(side * self.scale)
+        return self.picture().part(0, self.menu, *(whole(side * self.scale)
                                                    for side in (WIDTH, HEIGHT)))
 
     def shows(self, what, expected):
@@ -263,14 +291,36 @@ class Veltrix(Window):
                                  f"{wrong[:3]}; log: {self.log()}") from None
 
 
-def render(folder, document, scale=1, ticks=10):
-    """The picture of a board after some ticks, drawn without a window; `document` is its bytes."""
-    board, picture = folder / "render.vtx", folder / "render.png"
-    board.write_bytes(document)
-    subprocess.run([BUILD / "veltrix-cli", "render", board, "--ticks", str(ticks), "--scale",
-                    str(scale), "--out", picture], check=True, timeout=LIMIT)
-    return Picture.of_file(picture)
+class DesktopTest(unittest.TestCase):
+    """A test with a desktop of its own."""
 
+    def setUp(self):
+        if missing():
+            self.skipTest(missing())
+        self.desktop = Desktop()
+        self.desktop.__enter__()
+        self.addCleanup(self.desktop.__exit__)
+        self.files = self.desktop.files
 
-if __name__ == "__main__":
-    sys.exit(missing())
+    def start(self, *arguments, **more):
+        return Veltrix(self.desktop, *arguments, **more)
+
+    def put(self, name, board):
+        """A board as a document; answers its path."""
+        path = self.files / name
+        path.write_bytes(board.write())
+        return path
+
+    def render(self, board, scale=1, ticks=10):
+        """The picture of a board after some ticks, drawn without a window."""
+        document = self.put("render.vtx", board) if isinstance(board, board_model.Board) else board
+        picture = self.files / "render.png"
+        subprocess.run([BUILD / "veltrix-cli", "render", document, "--ticks", str(ticks),
+                        "--scale", str(scale), "--out", picture], check=True, timeout=LIMIT)
+        return Picture.of_file(picture)
+
+    def ends_well(self, veltrix):
+        """The program ends by itself, and nothing was found wrong with it."""
+        status = veltrix.ended()
+        self.assertEqual(status, 0, veltrix.log())
+        self.assertNotRegex(veltrix.log(), "Sanitizer|runtime error")
