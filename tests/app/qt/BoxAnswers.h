@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QStringList>
 #include <QTest>
@@ -125,13 +126,21 @@ private:
 
     void look() {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr || !dialog->isVisible())
+        if (dialog == nullptr || !dialog->isVisible() || answering_)
             return;
-        if (answers_.empty())
-            return refuse(*dialog);
-        const Answer answer = answers_.front();
-        answers_.pop_front();
-        answer(*dialog);
+        answering_ = true;
+        // Not from here: a timer does not fire again before it is done, and what the answer opens
+        // must be seen too.
+        QTimer::singleShot(0, &timer_, [this, dialog = QPointer(dialog)] {
+            answering_ = false;
+            if (dialog == nullptr)
+                return;
+            if (answers_.empty())
+                return refuse(*dialog);
+            const Answer answer = answers_.front();
+            answers_.pop_front();
+            answer(*dialog);
+        });
     }
 
     static void refuse(QDialog& dialog) {
@@ -143,6 +152,7 @@ private:
 
     std::deque<Answer> answers_;
     QTimer timer_;
+    bool answering_ = false;
 };
 
 } // namespace veltrix::test

@@ -120,6 +120,16 @@ TEST_F(QtPointerTest, IsOverTheBareWindowOnItsBar) {
     EXPECT_FALSE(pointer.OverBareMainWindow());
 }
 
+TEST_F(QtPointerTest, IsNotOnABarThatDidNotSeeItLeave) {
+    // So a menu leaves the bar on some desktops, when an item over the board is chosen.
+    QtPointer pointer(*board, *bar);
+    MoveTo(QPoint(10, 60));
+    bar->setAttribute(Qt::WA_UnderMouse);
+    EXPECT_FALSE(pointer.OverBareMainWindow());
+    MoveTo(QPoint(10, 10));
+    EXPECT_TRUE(pointer.OverBareMainWindow());
+}
+
 TEST(StandardErrorLog, WritesALineWithTheProgramsName) {
     StandardErrorLog log;
     testing::internal::CaptureStderr();
