@@ -127,8 +127,7 @@ class Program(unittest.TestCase):
 
     def end(self, veltrix):
         veltrix.keys("alt+F4")
-        box = until("the question", lambda: [window for window in veltrix.windows("^Veltrix")
-                                             if window.number != veltrix.number])[0]
+        box = veltrix.window("Veltrix.*")
         box.keys("Tab", "Return")
         self.assertEqual(veltrix.ended(), 0, veltrix.log())
 
@@ -164,7 +163,7 @@ class Program(unittest.TestCase):
         player.kill()
         until("silence", lambda: len(dialog.picture().differences(quiet)) < bars / 8)
         dialog.keys("Return")
-        until("the end of the dialog", lambda: not veltrix.windows("Geluid Sensor"))
+        veltrix.alone()
         self.end(veltrix)
 
     def test_server_that_hangs_from_the_start_holds_up_nothing(self):
