@@ -90,8 +90,8 @@ TEST_F(SoundSensorOn, AnInputThatVanishesIsToldOnceAndComesBack) {
     server->AddInput("Mic");
     EXPECT_TRUE(waitUntil([&] { return real.wi.GetWaveInValid(1); }));
     const Tone tone("Mic");
-    // Going away may have clicked louder than the tone, and the scale never shrinks again.
-    EXPECT_TRUE(waitUntil([&] { return real.wi.GetVolume() > 25; })) << real.wi.GetVolume();
+    // Starting and stopping overshoot the tone by a few percent, and the scale never shrinks.
+    EXPECT_TRUE(waitUntil([&] { return real.wi.GetVolume() > 40; })) << real.wi.GetVolume();
     EXPECT_EQ(real.Lines("Mic"), 1);
     EXPECT_EQ(real.Lines("Webcam"), 0);
 }
