@@ -1,8 +1,10 @@
 #pragma once
 
 #include "board/BitmapStore.h"
+#include "board/FrameComposer.h"
 #include "board/Log.h"
 #include "board/Picture.h"
+#include "board/SpriteTree.h"
 #include "board/Types.h"
 
 #include <cstdint>
@@ -11,22 +13,6 @@
 #include <vector>
 
 namespace veltrix {
-
-/// A rectangle in pixels; empty when it has no width or no height.
-struct Rect {
-    std::int32_t x = 0;
-    std::int32_t y = 0;
-    std::int32_t width = 0;
-    std::int32_t height = 0;
-
-    [[nodiscard]] constexpr bool Empty() const noexcept { return width <= 0 || height <= 0; }
-
-    [[nodiscard]] bool Overlaps(const Rect& other) const noexcept;
-    [[nodiscard]] Rect Intersected(const Rect& other) const noexcept;
-    [[nodiscard]] Rect United(const Rect& other) const noexcept;
-
-    friend constexpr bool operator==(const Rect&, const Rect&) = default;
-};
 
 /// Mouse buttons, by the numbers that the surface's events carry.
 enum class MouseButton : std::int32_t { Left = 1, Right = 2 };
@@ -42,19 +28,6 @@ public:
                          std::int32_t y) = 0;
     virtual void MouseMove(std::int32_t sprite, std::int32_t x, std::int32_t y) = 0;
 };
-
-/// The states of a sprite.
-namespace spriteState {
-inline constexpr std::int32_t Shown = 0;
-inline constexpr std::int32_t Leaving = 1; ///< no longer drawn, about to be deleted
-inline constexpr std::int32_t Hidden = 3;
-} // namespace spriteState
-
-/// The flags of a sprite. A lamp on a push button must let the click through to the board.
-namespace spriteFlags {
-inline constexpr std::int32_t ReportsMouse = 1; ///< events over it name it
-inline constexpr std::int32_t Overlay = 4;      ///< a mere picture: the mouse looks through it
-} // namespace spriteFlags
 
 /// The surface that the board is drawn on: pictures, sprites cut from them, and groups of sprites,
 /// composed in software into one frame of pixels.
@@ -145,18 +118,18 @@ public:
     [[nodiscard]] std::int32_t CountInGroup(std::int32_t group) const noexcept;
 
     /// All sprites and groups there are.
-    [[nodiscard]] std::int32_t CountAll() const noexcept { return live_; }
+    [[nodiscard]] std::int32_t CountAll() const noexcept { return tree_.Count(); }
 
     // The frame
 
     /// Brings the frame up to date. Afterwards Changed() lists what it painted.
-    void Refresh();
+    void Refresh() { composer_.Refresh(); }
 
     /// The rectangles of the frame, in frame pixels, that the last Refresh painted.
-    [[nodiscard]] const std::vector<Rect>& Changed() const noexcept { return changed_; }
+    [[nodiscard]] const std::vector<Rect>& Changed() const noexcept { return composer_.Changed(); }
 
     /// The picture as of the last Refresh: board size times scale, rounded up; every pixel opaque.
-    [[nodiscard]] const Picture& Frame() const noexcept { return frame_; }
+    [[nodiscard]] const Picture& Frame() const noexcept { return composer_.Frame(); }
 
     // The mouse: the front end hands events in, the surface hands them on with the sprite they hit.
 
@@ -170,108 +143,15 @@ public:
     void MouseMove(std::int32_t x, std::int32_t y);
 
 private:
-    /// What the frame shows of a sprite, in frame pixels; nothing when the rectangle is empty.
-    struct Look {
-        Rect rect;
-        std::int32_t bitmap = 0;
-        std::int32_t mask = 0;
-        std::int32_t sourceX = 0;
-        std::int32_t sourceY = 0;
-        std::int32_t level = 0;
-        std::uint64_t among = 0; // the rank of the parent
-
-        friend bool operator==(const Look&, const Look&) = default;
-    };
-
-    enum class Kind : std::uint8_t { Unused, Sprite, Group };
-
-    struct Node {
-        Kind kind = Kind::Unused;
-        bool touched = false;
-        std::int32_t generation = 0;
-        std::int32_t bitmap = 0;
-        std::int32_t mask = 0;
-        Rect place; // relative to the parent, board pixels
-        Point source;
-        std::int32_t flags = 0;
-        std::int32_t level = 0;
-        std::int32_t state = spriteState::Shown;
-        std::int32_t parent = -1;
-        std::int32_t firstChild = -1;
-        std::int32_t lastChild = -1;
-        std::int32_t previous = -1;
-        std::int32_t next = -1;
-        std::uint64_t rank = 0;       // another one whenever its place in the order changes
-        std::uint64_t age = 0;        // grows with every sprite made
-        std::uint64_t paintedAge = 0; // that of the sprite whose look this one took over
-        Look painted;
-    };
-
-    struct Ghost {
-        Look look;
-        std::uint64_t age = 0;
-        std::int32_t next = -1; // in its bucket
-    };
-
-    // Nodes
-    std::int32_t make(Kind kind);
-    [[nodiscard]] std::int32_t indexOf(std::int32_t number) const noexcept;
-    [[nodiscard]] std::int32_t numberOf(std::int32_t index) const noexcept;
-    [[nodiscard]] Node* nodeOf(std::int32_t number) noexcept;
-    [[nodiscard]] const Node* nodeOf(std::int32_t number) const noexcept;
-
-    [[nodiscard]] Node& node(std::int32_t index) noexcept {
-        return nodes_[static_cast<std::size_t>(index)];
-    }
-
-    [[nodiscard]] const Node& node(std::int32_t index) const noexcept {
-        return nodes_[static_cast<std::size_t>(index)];
-    }
-
-    void attach(std::int32_t index, std::int32_t parent) noexcept;
-    void detach(std::int32_t index) noexcept;
-    void touch(std::int32_t index);
-    void touchTree(std::int32_t index);
-    void rankTree(std::int32_t index);
-    void erase(std::int32_t index);
-    [[nodiscard]] bool shown(std::int32_t index) const noexcept;
-    [[nodiscard]] Rect boardRect(std::int32_t index) const noexcept;
-    [[nodiscard]] std::int32_t firstChildOf(std::int32_t index) const noexcept;
-
-    // Painting
-    [[nodiscard]] std::int32_t toFrame(std::int64_t board) const noexcept;
-    [[nodiscard]] Look lookOf(std::int32_t index) const;
-    void indexGhosts();
-    [[nodiscard]] std::size_t bucketOf(const Look& look) const noexcept;
-    bool takeOver(Node& fresh, const Look& look);
-    void damage(const Rect& rect);
-    void order();
-    void orderChildren(std::int32_t parent);
-    void compose(const Rect& rect);
-    void paint(const Look& look, const Rect& clip);
-
     [[nodiscard]] std::int32_t spriteAt(std::int32_t x, std::int32_t y);
+    [[nodiscard]] bool isPointerOver(std::int32_t index) const noexcept;
 
     std::int32_t width_ = 0;
     std::int32_t height_ = 0;
     double scale_ = 1;
     BitmapStore bitmaps_;
-    std::vector<Node> nodes_;
-    std::vector<std::int32_t> unused_;
-    std::int32_t firstRoot_ = -1;
-    std::int32_t lastRoot_ = -1;
-    std::int32_t live_ = 0;
-    std::uint64_t ages_ = 0;
-
-    std::vector<std::int32_t> touched_;
-    std::vector<Ghost> ghosts_;
-    std::vector<std::int32_t> buckets_; // the first ghost of each
-    std::vector<Rect> damaged_;         // will be painted by the next Refresh
-    std::vector<Rect> changed_;         // was painted by the last one
-    std::vector<std::int32_t> order_;   // all nodes, from the lowest to the highest
-    bool orderStale_ = true;
-    Picture frame_;
-
+    SpriteTree tree_;
+    FrameComposer composer_{tree_, bitmaps_};
     std::vector<SurfaceEvents*> listeners_;
     Point pointer_{-1, -1};
 };

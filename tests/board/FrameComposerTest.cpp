@@ -33,14 +33,14 @@ struct Painted : Canvas {
 
 using Rects = std::vector<Rect>;
 
-TEST(PictorATLRefresh, TheFirstOneAndOneAtAnotherScalePaintAll) {
+TEST(FrameComposer, TheFirstOneAndOneAtAnotherScalePaintAll) {
     Painted canvas;
     EXPECT_EQ(canvas.painted(), Rects({{0, 0, 40, 30}}));
     canvas.surface.Restart(1.25);
     EXPECT_EQ(canvas.painted(), Rects({{0, 0, 50, 38}}));
 }
 
-TEST(PictorATLRefresh, WhereNothingChangedNothingIsPainted) {
+TEST(FrameComposer, WhereNothingChangedNothingIsPainted) {
     Painted canvas;
     const std::int32_t sprite = canvas.sprite(red, {3, 4, 5, 6});
     canvas.surface.Refresh();
@@ -55,7 +55,7 @@ TEST(PictorATLRefresh, WhereNothingChangedNothingIsPainted) {
     EXPECT_EQ(canvas.painted(), Rects());
 }
 
-TEST(PictorATLRefresh, WhatChangesBackBeforeItIsNotPainted) {
+TEST(FrameComposer, WhatChangesBackBeforeItIsNotPainted) {
     Painted canvas;
     const std::int32_t sprite = canvas.sprite(red, {3, 4, 5, 6});
     canvas.surface.Refresh();
@@ -66,7 +66,7 @@ TEST(PictorATLRefresh, WhatChangesBackBeforeItIsNotPainted) {
     EXPECT_EQ(canvas.painted(), Rects());
 }
 
-TEST(PictorATLRefresh, WhatIsNotSeenIsNotPainted) {
+TEST(FrameComposer, WhatIsNotSeenIsNotPainted) {
     Painted canvas;
     const std::int32_t group = canvas.surface.NewGroup();
     canvas.surface.SetSpriteState(group, spriteState::Hidden);
@@ -81,7 +81,7 @@ TEST(PictorATLRefresh, WhatIsNotSeenIsNotPainted) {
     EXPECT_EQ(canvas.painted(), Rects());
 }
 
-TEST(PictorATLRefresh, ASpriteThatMovesIsPaintedAtBothPlaces) {
+TEST(FrameComposer, ASpriteThatMovesIsPaintedAtBothPlaces) {
     Painted canvas;
     const std::int32_t sprite = canvas.sprite(red, {3, 4, 5, 6});
     canvas.surface.Refresh();
@@ -94,7 +94,7 @@ TEST(PictorATLRefresh, ASpriteThatMovesIsPaintedAtBothPlaces) {
     EXPECT_EQ(canvas.pixel(24, 15), red);
 }
 
-TEST(PictorATLRefresh, PlacesThatOverlapArePaintedAsOne) {
+TEST(FrameComposer, PlacesThatOverlapArePaintedAsOne) {
     Painted canvas;
     const std::int32_t sprite = canvas.sprite(red, {3, 4, 5, 6});
     canvas.surface.Refresh();
@@ -102,7 +102,7 @@ TEST(PictorATLRefresh, PlacesThatOverlapArePaintedAsOne) {
     EXPECT_EQ(canvas.painted(), Rects({{3, 4, 7, 7}}));
 }
 
-TEST(PictorATLRefresh, OnlyThePartOnTheBoardIsPainted) {
+TEST(FrameComposer, OnlyThePartOnTheBoardIsPainted) {
     Painted canvas(2);
     const std::int32_t sprite = canvas.sprite(red, {3, 4, 5, 6});
     canvas.surface.Refresh();
@@ -112,7 +112,7 @@ TEST(PictorATLRefresh, OnlyThePartOnTheBoardIsPainted) {
     EXPECT_NE(std::find(rects.begin(), rects.end(), Rect{76, 0, 4, 8}), rects.end());
 }
 
-TEST(PictorATLRefresh, ASpriteMadeAgainAlikeIsNotPainted) {
+TEST(FrameComposer, ASpriteMadeAgainAlikeIsNotPainted) {
     Painted canvas;
     canvas.sprite(blue, {0, 0, 40, 30});
     const std::int32_t bitmap = canvas.bitmap(plain(5, 5, red));
@@ -132,7 +132,7 @@ TEST(PictorATLRefresh, ASpriteMadeAgainAlikeIsNotPainted) {
     EXPECT_EQ(canvas.pixel(10, 10), blue);
 }
 
-TEST(PictorATLRefresh, ASpriteMadeAgainUnlikeIsPainted) {
+TEST(FrameComposer, ASpriteMadeAgainUnlikeIsPainted) {
     Painted canvas;
     const std::int32_t bitmap = canvas.bitmap(plain(5, 5, red));
     const std::int32_t other = canvas.bitmap(plain(5, 5, green));
@@ -149,7 +149,7 @@ TEST(PictorATLRefresh, ASpriteMadeAgainUnlikeIsPainted) {
     EXPECT_EQ(canvas.pixel(10, 14), nothing);
 }
 
-TEST(PictorATLRefresh, TwoMadeAgainInTheSameOrderAreNotPaintedAndInTheOtherOrderAre) {
+TEST(FrameComposer, TwoMadeAgainInTheSameOrderAreNotPaintedAndInTheOtherOrderAre) {
     Painted canvas;
     const std::int32_t redBitmap = canvas.bitmap(plain(8, 8, red));
     const std::int32_t greenBitmap = canvas.bitmap(plain(8, 8, green));
@@ -170,7 +170,7 @@ TEST(PictorATLRefresh, TwoMadeAgainInTheSameOrderAreNotPaintedAndInTheOtherOrder
     EXPECT_EQ(canvas.pixel(11, 11), green);
 }
 
-TEST(PictorATLRefresh, ASpriteMadeAgainAboveAnotherOneIsPainted) {
+TEST(FrameComposer, ASpriteMadeAgainAboveAnotherOneIsPainted) {
     Painted canvas;
     const std::int32_t bitmap = canvas.bitmap(plain(8, 8, red));
     const std::int32_t sprite = canvas.again(bitmap, 0, 0);
@@ -183,7 +183,7 @@ TEST(PictorATLRefresh, ASpriteMadeAgainAboveAnotherOneIsPainted) {
     EXPECT_EQ(canvas.pixel(5, 5), red);
 }
 
-TEST(PictorATLRefresh, AGroupMadeAgainAboveAnotherOneIsPainted) {
+TEST(FrameComposer, AGroupMadeAgainAboveAnotherOneIsPainted) {
     Painted canvas;
     const std::int32_t bitmap = canvas.bitmap(plain(8, 8, red));
     const auto groupAt = [&] {
@@ -200,7 +200,7 @@ TEST(PictorATLRefresh, AGroupMadeAgainAboveAnotherOneIsPainted) {
     EXPECT_EQ(canvas.shown(5, 5), red);
 }
 
-TEST(PictorATLRefresh, AClearedGroupThatIsFilledAlikeIsPaintedWhereItsLevelChanged) {
+TEST(FrameComposer, AClearedGroupThatIsFilledAlikeIsPaintedWhereItsLevelChanged) {
     Painted canvas;
     const std::int32_t bitmap = canvas.bitmap(plain(8, 8, red));
     const std::int32_t group = canvas.surface.NewGroup();
@@ -219,7 +219,7 @@ TEST(PictorATLRefresh, AClearedGroupThatIsFilledAlikeIsPaintedWhereItsLevelChang
     EXPECT_EQ(canvas.shown(5, 5), red);
 }
 
-TEST(PictorATLRefresh, WhatIsAttachedToAMovedGroupIsPaintedWhereItsOrderChanged) {
+TEST(FrameComposer, WhatIsAttachedToAMovedGroupIsPaintedWhereItsOrderChanged) {
     Painted canvas;
     const std::int32_t high = canvas.surface.NewGroup();
     canvas.surface.SetLevel(high, 1);
@@ -231,7 +231,7 @@ TEST(PictorATLRefresh, WhatIsAttachedToAMovedGroupIsPaintedWhereItsOrderChanged)
     EXPECT_EQ(canvas.shown(5, 5), red);
 }
 
-TEST(PictorATLRefresh, APixelThatIsSetIsPaintedWhereverItIsShown) {
+TEST(FrameComposer, APixelThatIsSetIsPaintedWhereverItIsShown) {
     Painted canvas;
     const std::int32_t bitmap = canvas.bitmap(plain(4, 4, red));
     canvas.again(bitmap, 0, 0);
@@ -247,7 +247,7 @@ TEST(PictorATLRefresh, APixelThatIsSetIsPaintedWhereverItIsShown) {
     EXPECT_EQ(canvas.pixel(1, 21), green);
 }
 
-TEST(PictorATLRefresh, WhatWaitedToBePaintedFitsTheFrameOfASmallerScale) {
+TEST(FrameComposer, WhatWaitedToBePaintedFitsTheFrameOfASmallerScale) {
     Painted canvas(3);
     const std::int32_t bitmap = canvas.bitmap(plain(4, 4, red));
     const std::int32_t sprite = canvas.again(bitmap, 36, 26);
@@ -259,7 +259,7 @@ TEST(PictorATLRefresh, WhatWaitedToBePaintedFitsTheFrameOfASmallerScale) {
     EXPECT_EQ(canvas.pixel(37, 27), green);
 }
 
-TEST(PictorATLRefresh, TheFrameIsTouchedOnlyByIt) {
+TEST(FrameComposer, TheFrameIsTouchedOnlyByIt) {
     Painted canvas;
     const std::int32_t sprite = canvas.sprite(red, {0, 0, 5, 5});
     canvas.surface.Refresh();

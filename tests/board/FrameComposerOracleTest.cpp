@@ -374,9 +374,9 @@ private:
     std::size_t firstMask_ = 0;
 };
 
-class PictorATLOracle : public testing::TestWithParam<double> {};
+class FrameComposerOracle : public testing::TestWithParam<double> {};
 
-TEST_P(PictorATLOracle, WhatIsRefreshedLooksLikeWhatIsPaintedAnew) {
+TEST_P(FrameComposerOracle, WhatIsRefreshedLooksLikeWhatIsPaintedAnew) {
     for (const std::uint32_t seed : {1U, 2U, 3U}) {
         Play play(seed, GetParam());
         for (int step = 0; step < 1000; ++step) {
@@ -386,7 +386,7 @@ TEST_P(PictorATLOracle, WhatIsRefreshedLooksLikeWhatIsPaintedAnew) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(AtEveryScale, PictorATLOracle, testing::Values(1.0, 1.25, 2.0));
+INSTANTIATE_TEST_SUITE_P(AtEveryScale, FrameComposerOracle, testing::Values(1.0, 1.25, 2.0));
 
 } // namespace
 } // namespace veltrix
