@@ -1,8 +1,6 @@
 #include "document/clsKorvelRFile.h"
 
 #include "board/AppPath.h"
-#include "document/ChunkEncoding.h"
-#include "document/CodePage1252.h"
 
 #include <cerrno>
 #include <filesystem>
@@ -44,48 +42,12 @@ void clsKorvelRFile::CloseFile() noexcept {
     position_ = 0;
 }
 
-void clsKorvelRFile::GoIntoChunk() {
-    readInt();
-    readLong();
-}
-
 std::int16_t clsKorvelRFile::PeekChunkType() {
     const std::uint64_t position = position_;
     const std::int16_t type = readInt();
     position_ = position;
     file_.pubseekpos(static_cast<std::streamoff>(position));
     return type;
-}
-
-std::string clsKorvelRFile::readString() {
-    std::string text;
-    while (const std::uint8_t byte = takeByte())
-        AppendCharacter(text, byte);
-    return text;
-}
-
-std::int16_t clsKorvelRFile::readInt() {
-    return chunk::ToInt(take<chunk::IntBytes>());
-}
-
-std::int32_t clsKorvelRFile::readLong() {
-    return chunk::ToLong(take<chunk::LongBytes>());
-}
-
-std::int32_t clsKorvelRFile::readBool() {
-    return takeByte() == chunk::True ? -1 : 0;
-}
-
-float clsKorvelRFile::readSingle() {
-    return chunk::ToSingle(take<chunk::LongBytes>());
-}
-
-template <typename Bytes>
-Bytes clsKorvelRFile::take() {
-    Bytes bytes{};
-    for (std::uint8_t& byte : bytes)
-        byte = takeByte();
-    return bytes;
 }
 
 std::uint8_t clsKorvelRFile::takeByte() {

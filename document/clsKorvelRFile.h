@@ -1,6 +1,7 @@
 #pragma once
 
-#include <cstddef>
+#include "document/ChunkFieldReader.h"
+
 #include <cstdint>
 #include <fstream>
 #include <string>
@@ -9,7 +10,7 @@ namespace veltrix {
 
 /// Reads chunks from a file. Past its end there are zeros. Every read throws std::system_error when
 /// no file is open or the file cannot be read.
-class clsKorvelRFile {
+class clsKorvelRFile : public ChunkFieldReader<clsKorvelRFile> {
 public:
     /// Opens a file (UTF-8 path) at its start, after closing the one that is open. Throws
     /// std::system_error, with no file open, when it cannot be read; what is no regular file
@@ -19,20 +20,15 @@ public:
     /// Does nothing when no file is open.
     void CloseFile() noexcept;
 
-    void GoIntoChunk();
+    /// The type of the chunk at the position, which stays.
     std::int16_t PeekChunkType();
-    std::string readString(); ///< UTF-8
-    std::int16_t readInt();
-    std::int32_t readLong();
-    std::int32_t readBool(); ///< -1 or 0
-    float readSingle();
 
     /// Bytes from the position to the end of the file as it was when it was opened.
     [[nodiscard]] std::uint64_t Remaining() const noexcept { return size_ - position_; }
 
 private:
-    template <typename Bytes>
-    Bytes take();
+    friend ChunkFieldReader<clsKorvelRFile>;
+
     std::uint8_t takeByte();
 
     std::filebuf file_;

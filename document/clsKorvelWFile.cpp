@@ -1,8 +1,6 @@
 #include "document/clsKorvelWFile.h"
 
 #include "board/Arithmetic.h"
-#include "document/ChunkEncoding.h"
-#include "document/CodePage1252.h"
 
 #include <exception>
 #include <system_error>
@@ -32,50 +30,6 @@ void clsKorvelWFile::CloseFile() {
     position_ = 0;
     if (save_.Begun())
         save_.Commit(content);
-}
-
-void clsKorvelWFile::BeginChunk(std::int16_t i) {
-    writeInt(i);
-    chunks_.Open(position_);
-    writeLong(0);
-}
-
-void clsKorvelWFile::EndChunk() {
-    const std::int32_t end = position_;
-    position_ = chunks_.LengthField();
-    const std::int32_t body = CheckedAdd(position_, sizeof(std::int32_t));
-    writeLong(CheckedSubtract(end, body));
-    position_ = end;
-    chunks_.Close();
-}
-
-std::string clsKorvelWFile::writeString(std::string_view s) {
-    while (!s.empty())
-        putByte(TakeByte(s));
-    putByte(0);
-    return {};
-}
-
-void clsKorvelWFile::writeInt(std::int16_t i) {
-    put(chunk::FromInt(i));
-}
-
-void clsKorvelWFile::writeLong(std::int32_t l) {
-    put(chunk::FromLong(l));
-}
-
-void clsKorvelWFile::writeBool(bool b) {
-    putByte(b ? chunk::True : chunk::False);
-}
-
-void clsKorvelWFile::writeSingle(float s) {
-    put(chunk::FromSingle(s));
-}
-
-template <typename Bytes>
-void clsKorvelWFile::put(const Bytes& bytes) {
-    for (const std::uint8_t byte : bytes)
-        putByte(byte);
 }
 
 void clsKorvelWFile::putByte(std::uint8_t byte) {

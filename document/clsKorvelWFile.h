@@ -1,18 +1,17 @@
 #pragma once
 
-#include "document/ChunkStack.h"
+#include "document/ChunkFieldWriter.h"
 #include "document/FileSave.h"
 #include "document/SaveCalls.h"
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 namespace veltrix {
 
 /// Writes chunks to a file. They reach the file when it is closed, all of them or none (see
 /// FileSave). Every write throws std::system_error when no file is open.
-class clsKorvelWFile {
+class clsKorvelWFile : public ChunkFieldWriter<clsKorvelWFile> {
 public:
     /// `calls` must outlive the stream.
     explicit clsKorvelWFile(SaveCalls& calls = PlatformSaveCalls()) noexcept : save_(calls) {}
@@ -34,31 +33,14 @@ public:
     /// it is closed then, and what was there before is still there.
     void CloseFile();
 
-    /// Throws std::out_of_range when 100 chunks are open, after the type was written.
-    void BeginChunk(std::int16_t i);
-
-    /// Throws std::out_of_range when more chunks were ended than begun. One too many overwrites the
-    /// start of the stream.
-    void EndChunk();
-
-    /// Writes UTF-8 text; the result is always empty. Throws std::overflow_error at a character
-    /// that is not in code page 1252.
-    std::string writeString(std::string_view s);
-    void writeInt(std::int16_t i);
-    void writeLong(std::int32_t l);
-    void writeBool(bool b);
-    void writeSingle(float s);
-
 private:
-    template <typename Bytes>
-    void put(const Bytes& bytes);
+    friend ChunkFieldWriter<clsKorvelWFile>;
+
     void putByte(std::uint8_t byte);
 
     FileSave save_;
     int exceptions_ = 0; // on their way when the file was opened
     std::string written_;
-    ChunkStack chunks_;
-    std::int32_t position_ = 0; // in what was written
 };
 
 } // namespace veltrix
