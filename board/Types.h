@@ -33,6 +33,11 @@ struct Point {
 namespace level {
 inline constexpr std::int32_t Low = 0;
 inline constexpr std::int32_t High = 50;
+
+/// The level of a digital output.
+[[nodiscard]] constexpr std::int32_t Of(bool high) noexcept {
+    return high ? High : Low;
+}
 } // namespace level
 
 } // namespace veltrix

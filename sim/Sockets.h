@@ -2,7 +2,12 @@
 
 #include "board/SocketName.h"
 
+#include <array>
+
 namespace veltrix {
+
+/// Four outputs that give a number in binary, the lowest bit first.
+using FourBits = std::array<SocketName, 4>;
 
 /// The names that the simulation itself speaks of, looked up once.
 struct Sockets {
@@ -44,23 +49,16 @@ struct Sockets {
     SocketName TellerPulsen = "Pulsenteller Tel pulsen (In)";
     SocketName TellerAanUit = "Pulsenteller Teller aan/uit (In)";
     SocketName TellerReset = "Pulsenteller Reset (In)";
-    SocketName TellerUitgang1 = "Pulsenteller Uitgang 1";
-    SocketName TellerUitgang2 = "Pulsenteller Uitgang 2";
-    SocketName TellerUitgang4 = "Pulsenteller Uitgang 4";
-    SocketName TellerUitgang8 = "Pulsenteller Uitgang 8";
+    FourBits TellerUitgang{"Pulsenteller Uitgang 1", "Pulsenteller Uitgang 2",
+                           "Pulsenteller Uitgang 4", "Pulsenteller Uitgang 8"};
     /// No socket of the board: marks the counter as done for this run.
     SocketName TellerUitgangen = "Pulsenteller Uitgang Collection";
 
     SocketName AdIn = "AD-omzetter In";
-    SocketName AdUitgang1 = "AD-omzetter Uitgang 1";
-    SocketName AdUitgang2 = "AD-omzetter Uitgang 2";
-    SocketName AdUitgang4 = "AD-omzetter Uitgang 4";
-    SocketName AdUitgang8 = "AD-omzetter Uitgang 8";
+    FourBits AdUitgang{"AD-omzetter Uitgang 1", "AD-omzetter Uitgang 2", "AD-omzetter Uitgang 4",
+                       "AD-omzetter Uitgang 8"};
 
-    SocketName Led1 = "LED 1 Ingang";
-    SocketName Led2 = "LED 2 Ingang";
-    SocketName Led3 = "LED 3 Ingang";
-    SocketName Led4 = "LED 4 Ingang";
+    std::array<SocketName, 4> Leds{"LED 1 Ingang", "LED 2 Ingang", "LED 3 Ingang", "LED 4 Ingang"};
     SocketName Zoemer = "Zoemer";
 
     SocketName ComparatorRegelaar = "Comparator Regelaar";

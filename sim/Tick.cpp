@@ -14,10 +14,6 @@ const Sockets& s() {
     return Sockets::Get();
 }
 
-std::int32_t digital(bool high) {
-    return high ? level::High : level::Low;
-}
-
 /// Where the pointer is brightest for the two sensors, in board pixels.
 constexpr std::array<Point, 2> lightSpots{{{44, 49}, {44, 102}}};
 
@@ -72,12 +68,13 @@ void Tick::ExchangeBoardIO() {
 
     addSensor(0, s().Sensor1Uit, lightSpots[0]);
     addSensor(1, s().Sensor2Uit, lightSpots[1]);
-    graph.AddPunt(s().Drukknop1Uit, digital(board.PushButtons[0].Value()));
-    graph.AddPunt(s().Drukknop2Uit, digital(board.PushButtons[1].Value()));
+    graph.AddPunt(s().Drukknop1Uit, level::Of(board.PushButtons[0].Value()));
+    graph.AddPunt(s().Drukknop2Uit, level::Of(board.PushButtons[1].Value()));
     graph.AddPunt(s().VarSpanningUit, board.Knobs.VariableVoltage);
     graph.AddPunt(s().GeluidsSensorUit, parts_.Sound.GetVolume());
     graph.AddPunt(s().PulsGeneratorUit, pulseLevel_);
-    addCounter();
+    // The count as it stood before this tick's evaluation.
+    graph.AddBits(s().TellerUitgang, board.Display.Value());
     runPulseGenerator();
 
     graph.Run(board.Lines);
@@ -103,15 +100,6 @@ void Tick::addSensor(std::size_t index, const SocketName& output, Point spot) {
     parts_.Graph.AddPunt(output, light);
 }
 
-void Tick::addCounter() {
-    // The count as it stood before this tick's evaluation, in binary.
-    const std::int32_t n = parts_.TheBoard.Display.Value();
-    parts_.Graph.AddPunt(s().TellerUitgang1, digital((n & 1) != 0));
-    parts_.Graph.AddPunt(s().TellerUitgang2, digital((n & 2) != 0));
-    parts_.Graph.AddPunt(s().TellerUitgang4, digital((n & 4) != 0));
-    parts_.Graph.AddPunt(s().TellerUitgang8, digital((n & 8) != 0));
-}
-
 void Tick::runPulseGenerator() {
     const double k = parts_.TheBoard.Knobs.PulseGenerator;
     const double halfPeriod = 10 / (4 * k + 10); // seconds
@@ -129,14 +117,13 @@ void Tick::runPulseGenerator() {
 }
 
 void Tick::driveLeds() {
-    const SocketName* const inputs[] = {&s().Led1, &s().Led2, &s().Led3, &s().Led4};
-    for (std::size_t i = 0; i < parts_.TheBoard.LEDs.size(); ++i)
-        parts_.TheBoard.LEDs[i].SetValue(parts_.Graph.GetPuntValueByName(*inputs[i], level::Low) ==
-                                         level::High);
+    std::array<clsLED, 4>& leds = parts_.TheBoard.LEDs;
+    for (std::size_t i = 0; i < leds.size(); ++i)
+        leds[i].SetValue(parts_.Graph.IsHigh(s().Leds[i]));
 }
 
 void Tick::driveBuzzer() {
-    const bool on = parts_.Graph.GetPuntValueByName(s().Zoemer, level::Low) == level::High;
+    const bool on = parts_.Graph.IsHigh(s().Zoemer);
     if (on == buzzer_)
         return;
     parts_.Player.Play(on ? "\\Ringin.wav" : "\\SILENCE.wav");

@@ -104,7 +104,6 @@ public:
 private:
     void takeOverKnob();
     void addSensor(std::size_t index, const SocketName& output, Point spot);
-    void addCounter();
     void runPulseGenerator();
     void driveLeds();
     void driveBuzzer();

@@ -2,7 +2,6 @@
 
 #include "board/Arithmetic.h"
 #include "instruments/clsDisplay.h"
-#include "sim/Sockets.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -13,10 +12,6 @@ namespace {
 
 const Sockets& s() {
     return Sockets::Get();
-}
-
-std::int32_t digital(bool high) {
-    return high ? level::High : level::Low;
 }
 
 /// The colour number that shows a level: 8 at 0 V, 1 at 5 V.
@@ -50,6 +45,11 @@ void clsGraph::AddPunt(const SocketName& naam, std::int32_t Value) {
     note.value = Value;
 }
 
+void clsGraph::AddBits(const FourBits& outputs, std::int32_t number) {
+    for (std::size_t bit = 0; bit < outputs.size(); ++bit)
+        AddPunt(outputs[bit], level::Of((number >> bit & 1) != 0));
+}
+
 std::int32_t clsGraph::GetPuntValueByName(const SocketName& naam,
                                           std::int32_t standard) const noexcept {
     return Level(naam).value_or(standard);
@@ -63,8 +63,7 @@ std::optional<std::int32_t> clsGraph::Level(const SocketName& naam) const noexce
 }
 
 bool clsGraph::PuntExists(const SocketName& naam) const noexcept {
-    const Note* note = findNote(naam);
-    return note != nullptr && note->knownIn == table_;
+    return Level(naam).has_value();
 }
 
 bool clsGraph::IsConnected(const SocketName& naam) const noexcept {
@@ -80,7 +79,7 @@ std::optional<std::int32_t> clsGraph::wiredLevel(const SocketName& naam) const n
     return IsConnected(naam) ? Level(naam) : std::nullopt;
 }
 
-bool clsGraph::isHigh(const SocketName& naam) const noexcept {
+bool clsGraph::IsHigh(const SocketName& naam) const noexcept {
     return GetPuntValueByName(naam, level::Low) == level::High;
 }
 
@@ -158,23 +157,23 @@ bool clsGraph::EvaluateModules() {
 bool clsGraph::orGate() {
     if (PuntExists(s().OfUit) || !ready(s().OfIngang1) || !ready(s().OfIngang2))
         return false;
-    AddPunt(s().OfUit, digital(isHigh(s().OfIngang1) || isHigh(s().OfIngang2)));
+    AddPunt(s().OfUit, level::Of(IsHigh(s().OfIngang1) || IsHigh(s().OfIngang2)));
     return true;
 }
 
 bool clsGraph::andGate() {
     if (PuntExists(s().EnUit) || !ready(s().EnIngang1) || !ready(s().EnIngang2))
         return false;
-    AddPunt(s().EnUit, digital(isHigh(s().EnIngang1) && isHigh(s().EnIngang2)));
+    AddPunt(s().EnUit, level::Of(IsHigh(s().EnIngang1) && IsHigh(s().EnIngang2)));
     return true;
 }
 
 bool clsGraph::memoryCell() {
     if (PuntExists(s().GeheugenUit) || !ready(s().GeheugenSet) || !ready(s().GeheugenReset))
         return false;
-    if (isHigh(s().GeheugenReset))
+    if (IsHigh(s().GeheugenReset))
         memoryLevel_ = level::Low;
-    if (isHigh(s().GeheugenSet)) // after Reset, so that Set wins when both are high
+    if (IsHigh(s().GeheugenSet)) // after Reset, so that Set wins when both are high
         memoryLevel_ = level::High;
     AddPunt(s().GeheugenUit, memoryLevel_);
     return true;
@@ -192,7 +191,7 @@ bool clsGraph::comparator() {
     if (PuntExists(s().ComparatorUit) || !ready(s().ComparatorIn))
         return false;
     const std::optional<std::int32_t> in = wiredLevel(s().ComparatorIn);
-    AddPunt(s().ComparatorUit, digital(in.has_value() && *in >= comparatorValue_));
+    AddPunt(s().ComparatorUit, level::Of(in.has_value() && *in >= comparatorValue_));
     return true;
 }
 
@@ -200,14 +199,14 @@ bool clsGraph::transistor() {
     if (PuntExists(s().TransistorUit) || !ready(s().TransistorIn))
         return false;
     const std::optional<std::int32_t> in = wiredLevel(s().TransistorIn);
-    AddPunt(s().TransistorUit, digital(in.has_value() && *in < conduction));
+    AddPunt(s().TransistorUit, level::Of(in.has_value() && *in < conduction));
     return true;
 }
 
 bool clsGraph::relayContact(const SocketName& from, const SocketName& to) {
     if (PuntExists(to) || !PuntExists(from))
         return false;
-    AddPunt(to, isHigh(s().RelaisControle) ? GetPuntValueByName(from, level::Low) : level::Low);
+    AddPunt(to, IsHigh(s().RelaisControle) ? GetPuntValueByName(from, level::Low) : level::Low);
     return true;
 }
 
@@ -217,7 +216,7 @@ bool clsGraph::pulseCounter() {
         return false;
     const std::optional<std::int32_t> pulse = Level(s().TellerPulsen);
     const bool enabled = GetPuntValueByName(s().TellerAanUit, level::High) == level::High;
-    if (isHigh(s().TellerReset)) {
+    if (IsHigh(s().TellerReset)) {
         display_->SetValue(0);
     } else if (enabled && pulse.has_value()) {
         if (*pulse == level::High && lastPulseLevel_ == level::Low)
@@ -229,14 +228,11 @@ bool clsGraph::pulseCounter() {
 }
 
 bool clsGraph::adConverter() {
-    if (PuntExists(s().AdUitgang1) || !ready(s().AdIn))
+    if (PuntExists(s().AdUitgang.front()) || !ready(s().AdIn))
         return false;
     const double in = wiredLevel(s().AdIn).value_or(level::Low);
     const std::int32_t n = MinOf({RoundToLong(in * 16 / level::High), 15});
-    AddPunt(s().AdUitgang1, digital((n & 1) != 0));
-    AddPunt(s().AdUitgang2, digital((n & 2) != 0));
-    AddPunt(s().AdUitgang4, digital((n & 4) != 0));
-    AddPunt(s().AdUitgang8, digital((n & 8) != 0));
+    AddBits(s().AdUitgang, n);
     return true;
 }
 

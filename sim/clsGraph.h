@@ -3,6 +3,7 @@
 #include "board/Collection.h"
 #include "board/SocketName.h"
 #include "board/clsLine.h"
+#include "sim/Sockets.h"
 
 #include <array>
 #include <cstdint>
@@ -33,12 +34,18 @@ public:
     /// Throws std::out_of_range when 100 levels are known already.
     void AddPunt(const SocketName& naam, std::int32_t Value);
 
+    /// Makes the levels of four outputs known that give the lowest bits of a number in binary.
+    void AddBits(const FourBits& outputs, std::int32_t number);
+
     /// The level of a socket, or `standard` when the run has not reached it.
     [[nodiscard]] std::int32_t GetPuntValueByName(const SocketName& naam,
                                                   std::int32_t standard) const noexcept;
 
     /// The level of a socket, if the run has reached it.
     [[nodiscard]] std::optional<std::int32_t> Level(const SocketName& naam) const noexcept;
+
+    /// Whether the run has reached a socket with exactly 50.
+    [[nodiscard]] bool IsHigh(const SocketName& naam) const noexcept;
 
     /// Evaluates the circuit. Every wire's `done` must be false; a wire that carries a level ends
     /// up done and coloured by it. The result is always false and means nothing. Throws what
@@ -64,7 +71,6 @@ private:
     [[nodiscard]] bool IsConnected(const SocketName& naam) const noexcept;
     [[nodiscard]] bool ready(const SocketName& naam) const noexcept;
     [[nodiscard]] std::optional<std::int32_t> wiredLevel(const SocketName& naam) const noexcept;
-    [[nodiscard]] bool isHigh(const SocketName& naam) const noexcept;
     void noteConnections(const Collection<clsLine>& lines);
     Note& noteOf(const SocketName& naam);
     [[nodiscard]] const Note* findNote(const SocketName& naam) const noexcept;

@@ -17,8 +17,7 @@ public:
     explicit Wiring(const Collection<clsLine>& lines) {
         for (const auto& line : lines) {
             ends_[line->naam1.Id()].lines.push_back(line.get());
-            if (!(line->naam1 == line->naam2))
-                ends_[line->naam2.Id()].lines.push_back(line.get());
+            ends_[line->naam2.Id()].lines.push_back(line.get());
         }
     }
 
