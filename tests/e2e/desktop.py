@@ -109,6 +109,9 @@ class Desktop:
             self.files.mkdir()
             self._environment["LC_ALL"] = "C.UTF-8"
             self._environment["DISPLAY"] = f":{self._start_server()}"
+            # The first key changes the server's keyboard, and a window manager that learns of that
+            # lets go of its keys for a moment: better before there is one.
+            self.do("key", "Shift_L")
             self.start("openbox")
             until("the window manager", lambda: "_NET_SUPPORTING_WM_CHECK(WINDOW)" in
                   self.ask("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
