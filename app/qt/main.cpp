@@ -4,15 +4,15 @@
 #include "app/qt/Platform.h"
 #include "app/qt/QtAboutWindow.h"
 #include "app/qt/QtDialogs.h"
-#include "app/qt/QtHelpWindow.h"
 #include "app/qt/QtMainWindow.h"
 #include "app/qt/QtPictures.h"
 #include "app/qt/QtPlatform.h"
 #include "app/qt/QtProgramStart.h"
 #include "app/qt/QtSettings.h"
 #include "app/qt/QtWaveInputsDialog.h"
-#include "app/qt/Sound.h"
 #include "app/qt/StartUpFailure.h"
+#include "app/qt/help/QtHelpWindow.h"
+#include "app/qt/sound/Sound.h"
 #include "board/AppPath.h"
 
 #include <QApplication>

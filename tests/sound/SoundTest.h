@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/qt/QtSound.h"
+#include "app/qt/sound/QtSound.h"
 #include "instruments/UCWaveIn.h"
 #include "tests/sound/Loudspeaker.h"
 #include "tests/sound/SoundServer.h"

@@ -1,7 +1,7 @@
 #include "tests/app/qt/PrintTo.h"
 #include "tests/app/qt/RealWindow.h"
 
-#include "app/qt/PageView.h"
+#include "app/qt/help/PageView.h"
 
 #include <QPushButton>
 #include <QTimer>

@@ -2,9 +2,9 @@
 
 #include "app/qt/QtAboutWindow.h"
 #include "app/qt/QtDialogs.h"
-#include "app/qt/QtHelpWindow.h"
 #include "app/qt/QtMainWindow.h"
 #include "app/qt/QtPlatform.h"
+#include "app/qt/help/QtHelpWindow.h"
 #include "tests/app/qt/BoxAnswers.h"
 #include "tests/app/qt/WaitUntil.h"
 #include "tests/support/MemoryDesktop.h"

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/qt/LoopPlayer.h"
-#include "app/qt/OpeningWatch.h"
-#include "app/qt/SoundCapture.h"
-#include "app/qt/SoundInputs.h"
+#include "app/qt/sound/LoopPlayer.h"
+#include "app/qt/sound/OpeningWatch.h"
+#include "app/qt/sound/SoundCapture.h"
+#include "app/qt/sound/SoundInputs.h"
 
 #include <QObject>
 #include <QTimer>

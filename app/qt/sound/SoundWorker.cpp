@@ -1,4 +1,4 @@
-#include "app/qt/SoundWorker.h"
+#include "app/qt/sound/SoundWorker.h"
 
 #include <QMediaDevices>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/qt/LoopSource.h"
+#include "app/qt/sound/LoopSource.h"
 
 #include <QAudioDevice>
 #include <QAudioSink>

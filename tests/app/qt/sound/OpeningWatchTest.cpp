@@ -1,4 +1,4 @@
-#include "app/qt/OpeningWatch.h"
+#include "app/qt/sound/OpeningWatch.h"
 #include "tests/app/qt/WaitUntil.h"
 
 #include <gtest/gtest.h>

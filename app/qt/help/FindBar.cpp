@@ -1,4 +1,4 @@
-#include "app/qt/FindBar.h"
+#include "app/qt/help/FindBar.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

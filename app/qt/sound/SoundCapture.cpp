@@ -1,4 +1,4 @@
-#include "app/qt/SoundCapture.h"
+#include "app/qt/sound/SoundCapture.h"
 
 #include <QIODevice>
 

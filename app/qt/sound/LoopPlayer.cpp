@@ -1,4 +1,4 @@
-#include "app/qt/LoopPlayer.h"
+#include "app/qt/sound/LoopPlayer.h"
 
 #include "board/AppPath.h"
 

@@ -1,4 +1,4 @@
-#include "app/qt/PageView.h"
+#include "app/qt/help/PageView.h"
 
 #include "tests/app/qt/PrintTo.h"
 #include "tests/support/Pictures.h"

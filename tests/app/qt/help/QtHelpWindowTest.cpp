@@ -1,8 +1,8 @@
-#include "app/qt/QtHelpWindow.h"
+#include "app/qt/help/QtHelpWindow.h"
 
-#include "app/qt/PageView.h"
-#include "app/qt/QtBrowser.h"
 #include "app/qt/QtDialogs.h"
+#include "app/qt/help/PageView.h"
+#include "app/qt/help/QtBrowser.h"
 #include "tests/app/qt/BoxAnswers.h"
 #include "tests/app/qt/PrintTo.h"
 #include "tests/support/MemoryDesktop.h"

@@ -1,4 +1,4 @@
-#include "app/qt/QtSound.h"
+#include "app/qt/sound/QtSound.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/qt/OpeningWatch.h"
-#include "app/qt/Sound.h"
-#include "app/qt/SoundInputs.h"
-#include "app/qt/SoundWorker.h"
+#include "app/qt/sound/OpeningWatch.h"
+#include "app/qt/sound/Sound.h"
+#include "app/qt/sound/SoundInputs.h"
+#include "app/qt/sound/SoundWorker.h"
 
 #include <QThread>
 #include <QTimer>

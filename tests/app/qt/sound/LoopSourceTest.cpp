@@ -1,4 +1,4 @@
-#include "app/qt/LoopSource.h"
+#include "app/qt/sound/LoopSource.h"
 #include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>

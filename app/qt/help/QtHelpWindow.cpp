@@ -1,7 +1,7 @@
-#include "app/qt/QtHelpWindow.h"
+#include "app/qt/help/QtHelpWindow.h"
 
-#include "app/qt/QtBrowser.h"
 #include "app/qt/QtPictures.h"
+#include "app/qt/help/QtBrowser.h"
 
 #include <QCloseEvent>
 #include <QUrl>

@@ -1,4 +1,4 @@
-#include "app/qt/Sound.h"
+#include "app/qt/sound/Sound.h"
 
 namespace veltrix {
 

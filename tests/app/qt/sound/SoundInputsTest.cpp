@@ -1,4 +1,4 @@
-#include "app/qt/SoundInputs.h"
+#include "app/qt/sound/SoundInputs.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "app/qt/QtBrowser.h"
+#include "app/qt/help/QtBrowser.h"
 
-#include "app/qt/FindBar.h"
-#include "app/qt/PageView.h"
+#include "app/qt/help/FindBar.h"
+#include "app/qt/help/PageView.h"
 #include "tests/support/TempFolder.h"
 
 #include <QLineEdit>

@@ -1,4 +1,4 @@
-#include "app/qt/FindBar.h"
+#include "app/qt/help/FindBar.h"
 
 #include "tests/app/qt/PrintTo.h"
 
