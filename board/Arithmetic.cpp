@@ -25,10 +25,6 @@ std::int32_t CheckedSubtract(std::int32_t a, std::int32_t b) {
     return narrow(std::int64_t{a} - b);
 }
 
-std::int32_t CheckedMultiply(std::int32_t a, std::int32_t b) {
-    return narrow(std::int64_t{a} * b);
-}
-
 std::int32_t RoundToLong(double value) {
     // Not std::nearbyint: its rounding depends on a mode that a library may have changed.
     constexpr double least = std::numeric_limits<std::int32_t>::min();

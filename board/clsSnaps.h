@@ -51,11 +51,6 @@ public:
     /// std::overflow_error when a snap's edge lies outside the 32-bit range.
     [[nodiscard]] std::string GetSnapName(std::int32_t x, std::int32_t y) const;
 
-    /// Whether some snap has this name.
-    [[nodiscard]] bool Knows(const SocketName& naam) const noexcept {
-        return find(naam) != nullptr;
-    }
-
 private:
     struct Snap {
         std::int32_t x = 0;

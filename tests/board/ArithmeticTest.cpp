@@ -17,8 +17,6 @@ TEST(Arithmetic, ResultsThatFitAreExactAtBothEndsOfTheRange) {
     EXPECT_EQ(CheckedAdd(least, most), -1);
     EXPECT_EQ(CheckedSubtract(least + 1, 1), least);
     EXPECT_EQ(CheckedSubtract(-1, least), most);
-    EXPECT_EQ(CheckedMultiply(least / 2, 2), least);
-    EXPECT_EQ(CheckedMultiply(-46340, 46340), -2147395600);
 }
 
 TEST(Arithmetic, ResultsThatDoNotFitAreErrors) {
@@ -26,8 +24,6 @@ TEST(Arithmetic, ResultsThatDoNotFitAreErrors) {
     EXPECT_THROW((void)CheckedAdd(least, -1), std::overflow_error);
     EXPECT_THROW((void)CheckedSubtract(least, 1), std::overflow_error);
     EXPECT_THROW((void)CheckedSubtract(0, least), std::overflow_error);
-    EXPECT_THROW((void)CheckedMultiply(46341, 46341), std::overflow_error);
-    EXPECT_THROW((void)CheckedMultiply(least, -1), std::overflow_error);
 }
 
 TEST(RoundToLong, HalvesGoToTheEvenNumber) {

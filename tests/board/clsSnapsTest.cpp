@@ -85,7 +85,6 @@ TEST(clsSnaps, TheCatalogueIsWhatIsPrintedOnTheBoard) {
         EXPECT_EQ(snaps.GetYbyName(row.naam), row.y);
         EXPECT_EQ(snaps.GetConnectablebyName(row.naam), row.Connectable);
         EXPECT_EQ(snaps.GetSoortbyName(row.naam), row.soort);
-        EXPECT_TRUE(snaps.Knows(row.naam));
     }
     EXPECT_EQ(number, 54);
     EXPECT_EQ(snaps.GetSnapCount(), 54);
@@ -109,7 +108,6 @@ TEST(clsSnaps, ANameThatNoSnapHasReadsAsZero) {
         EXPECT_EQ(snaps.GetYbyName(naam), 0);
         EXPECT_EQ(snaps.GetConnectablebyName(naam), 0);
         EXPECT_EQ(snaps.GetSoortbyName(naam), 0);
-        EXPECT_FALSE(snaps.Knows(naam));
     }
 }
 
@@ -200,7 +198,6 @@ TEST(clsSnaps, ThereIsRoomForAHundredSnaps) {
     EXPECT_EQ(snaps.GetSnapCount(), 100);
     EXPECT_EQ(snaps.GetSnapItemName(100), "snap 100");
     EXPECT_THROW(snaps.AddSnap(0, 0, 10, "one too many"), std::out_of_range);
-    EXPECT_FALSE(snaps.Knows("one too many"));
     EXPECT_EQ(snaps.GetSnapName(0, 100000), "snap 100");
 }
 
