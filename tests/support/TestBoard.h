@@ -4,6 +4,7 @@
 #include "instruments/Board.h"
 #include "tests/support/Logs.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <stdexcept>
@@ -26,22 +27,24 @@ struct TestBoard {
     Board board;
 };
 
-/// A wire between two snaps, which must both be on the board: a test with a slip in a name would
-/// otherwise show something else than it says.
-inline std::shared_ptr<clsLine> wire(Board& board, const std::string& naam1,
-                                     const std::string& naam2) {
-    for (const std::string& naam : {naam1, naam2})
-        if (!board.Snaps.Knows(naam))
-            throw std::invalid_argument("the board has no \"" + naam + "\"");
-    board.AddLine(naam1, naam2);
-    return board.Lines.Item(board.Lines.Count());
+/// The position of a snap by its name, for a click. Throws std::invalid_argument for a name that
+/// the board does not have: a test with a slip in it would otherwise show something else than it
+/// says.
+inline Point at(const Board& board, const std::string& naam) {
+    const clsSnaps& snaps = board.Snaps;
+    for (std::int32_t i = 1; i <= snaps.GetSnapCount(); ++i)
+        if (snaps.GetSnapItemName(i) == naam)
+            return {snaps.GetXbyName(naam), snaps.GetYbyName(naam)};
+    throw std::invalid_argument("the board has no \"" + naam + "\"");
 }
 
-/// Where a snap lies, for a click.
-inline Point at(const Board& board, const std::string& naam) {
-    if (!board.Snaps.Knows(naam))
-        throw std::invalid_argument("the board has no \"" + naam + "\"");
-    return {board.Snaps.GetXbyName(naam), board.Snaps.GetYbyName(naam)};
+/// A new wire between two snaps that the board must have.
+inline std::shared_ptr<clsLine> wire(Board& board, const std::string& naam1,
+                                     const std::string& naam2) {
+    static_cast<void>(at(board, naam1));
+    static_cast<void>(at(board, naam2));
+    board.AddLine(naam1, naam2);
+    return board.Lines.Item(board.Lines.Count());
 }
 
 } // namespace veltrix::test
