@@ -12,9 +12,6 @@
 namespace veltrix {
 namespace {
 
-using test::bytesOf;
-using test::OneFile;
-
 static_assert(ChunkReader<clsKorvelRFile> && !ChunkWriter<clsKorvelRFile>);
 static_assert(ChunkWriter<clsKorvelWFile> && !ChunkReader<clsKorvelWFile>);
 static_assert(ChunkReader<clsKorvelRWRam> && ChunkWriter<clsKorvelRWRam>);
@@ -56,28 +53,27 @@ void expectEverything(Reader& src) {
     EXPECT_EQ(src.readSingle(), -3.25F);
 }
 
-TEST(ChunkStream, AFileAndMemoryGetTheSameBytesFromTheSameCalls) {
-    const OneFile file;
-    clsKorvelWFile writer;
-    writer.OpenFile(file.text);
-    writeEverything(writer);
-    writer.CloseFile();
+std::string everythingInMemory() {
     clsKorvelRWRam ram;
     writeEverything(ram);
     const auto written = static_cast<std::ptrdiff_t>(clsKorvelRWRam::Size - ram.Remaining());
-    EXPECT_EQ(bytesOf(file.path), std::string(ram.Data().begin(), ram.Data().begin() + written));
+    return {ram.Data().begin(), ram.Data().begin() + written};
 }
 
-TEST(ChunkStream, WhatWasWrittenIsReadBackFromBoth) {
-    const OneFile file;
+TEST(ChunkStream, AFileGetsTheBytesThatMemoryGetsAndGivesThemBack) {
+    const test::OneFile file;
     clsKorvelWFile writer;
     writer.OpenFile(file.text);
     writeEverything(writer);
     writer.CloseFile();
+    EXPECT_EQ(test::bytesOf(file.path), everythingInMemory());
     clsKorvelRFile reader;
     reader.OpenFile(file.text);
     expectEverything(reader);
     EXPECT_EQ(reader.Remaining(), 0u);
+}
+
+TEST(ChunkStream, WhatWasWrittenToMemoryIsReadBack) {
     clsKorvelRWRam ram;
     writeEverything(ram);
     ram.ResetToStart();

@@ -12,25 +12,19 @@
 #include <string>
 #include <system_error>
 
-namespace veltrix {
+namespace veltrix::test {
 namespace {
 
-using test::documentOf;
-using test::longBytes;
-using test::TestBoard;
-using test::with;
-namespace field = test::field;
-
 std::optional<std::string> faultOf(const std::string& bytes) {
-    static const test::OneFile file; // some tests ask for hundreds of documents
-    test::putBytes(file.path, bytes);
+    static const OneFile file; // some tests ask for hundreds of documents
+    putBytes(file.path, bytes);
     return FindDocumentFault(file.text);
 }
 
 std::string twoWires() {
     TestBoard test;
-    test::wire(test.board, "Sensor 1 Uit Geel", "LED 1 Ingang");
-    test::wire(test.board, "Drukknop 1 Uit Geel", "Zoemer");
+    wire(test.board, "Sensor 1 Uit Geel", "LED 1 Ingang");
+    wire(test.board, "Drukknop 1 Uit Geel", "Zoemer");
     return documentOf(test.board);
 }
 
@@ -139,7 +133,7 @@ TEST(DocumentFault, WhatHasNoFaultIsReadAndWrittenBackAsItWas) {
         if (faultOf(bytes))
             continue;
         ++without;
-        ASSERT_NO_THROW(test::loadFile(test.board, bytes)) << file;
+        ASSERT_NO_THROW(loadFile(test.board, bytes)) << file;
         // The settings but for the reserved field and the two booleans, and then the wires.
         const std::string again = documentOf(test.board);
         EXPECT_EQ(again.substr(field::Counter, 24), bytes.substr(field::Counter, 24)) << file;
@@ -151,11 +145,11 @@ TEST(DocumentFault, WhatHasNoFaultIsReadAndWrittenBackAsItWas) {
 }
 
 TEST(DocumentFault, AFileThatCannotBeReadIsAnError) {
-    const test::OneFile file;
+    const OneFile file;
     EXPECT_THROW(static_cast<void>(FindDocumentFault(file.text)), std::system_error);
     EXPECT_THROW(static_cast<void>(FindDocumentFault(Utf8FromPath(file.folder.Path()))),
                  std::system_error);
 }
 
 } // namespace
-} // namespace veltrix
+} // namespace veltrix::test

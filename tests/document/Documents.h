@@ -4,6 +4,9 @@
 #include "document/clsKorvelRFile.h"
 #include "document/clsKorvelRWRam.h"
 #include "tests/document/Files.h"
+#include "tests/support/TestBoard.h"
+
+#include <gtest/gtest.h>
 
 #include <cstdint>
 #include <string>
@@ -60,6 +63,48 @@ inline void loadMemory(Board& board, const std::string& bytes) {
         ram.writeInt(static_cast<std::int16_t>(at(i) | at(i + 1) << 8));
     ram.ResetToStart();
     ReadFrom(board, ram);
+}
+
+/// Every setting another one than on a new board, each of its own value.
+inline void turnEverything(Board& board) {
+    board.Display.SetValue(7);
+    board.Sensors[0].SetValue(1);
+    board.Sensors[1].SetValue(2);
+    board.Knobs.PulseGenerator = 11;
+    board.Knobs.Comparator = 22;
+    board.Knobs.VariableVoltage = 33;
+    board.PushButtons[0].SetValue(true);
+    board.PushButtons[1].SetValue(false);
+}
+
+/// The settings that turnEverything makes.
+inline void expectTurned(const Board& board) {
+    EXPECT_EQ(board.Display.Value(), 7);
+    EXPECT_EQ(board.Sensors[0].Value(), 1);
+    EXPECT_EQ(board.Sensors[1].Value(), 2);
+    EXPECT_EQ(board.Knobs.PulseGenerator, 11);
+    EXPECT_EQ(board.Knobs.Comparator, 22);
+    EXPECT_EQ(board.Knobs.VariableVoltage, 33);
+    EXPECT_TRUE(board.PushButtons[0].Value());
+    EXPECT_FALSE(board.PushButtons[1].Value());
+}
+
+/// Three wires, the second of which begins where the first one ends.
+inline void addThreeWires(Board& board) {
+    wire(board, "Drukknop 1 Uit Geel", "LED 1 Ingang");
+    wire(board, "LED 1 Ingang", "LED 2 Ingang");
+    wire(board, "Sensor 1 Uit Geel", "Zoemer");
+}
+
+/// The two streams that documents are read from, for load.
+inline const std::string bothReaders[] = {"file", "memory"};
+
+/// Reads bytes as one of bothReaders does.
+inline void load(const std::string& reader, Board& board, const std::string& bytes) {
+    if (reader == "file")
+        loadFile(board, bytes);
+    else
+        loadMemory(board, bytes);
 }
 
 } // namespace veltrix::test

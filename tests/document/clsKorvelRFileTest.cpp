@@ -1,5 +1,6 @@
 #include "document/clsKorvelRFile.h"
 
+#include "tests/document/Errors.h"
 #include "tests/document/Files.h"
 
 #include <gtest/gtest.h>
@@ -8,89 +9,71 @@
 #include <string>
 #include <system_error>
 
-namespace veltrix {
+namespace veltrix::test {
 namespace {
 
-using test::OneFile;
-using test::putBytes;
-
-template <typename Call>
-std::error_code codeOf(Call call) {
-    try {
-        call();
-    } catch (const std::system_error& error) {
-        return error.code();
+/// A file of these bytes, opened to be read from its start.
+struct FileBeingRead : OneFile {
+    explicit FileBeingRead(const std::string& bytes) {
+        putBytes(path, bytes);
+        reader.OpenFile(text);
     }
-    return {};
-}
+
+    clsKorvelRFile reader;
+};
 
 TEST(clsKorvelRFile, ReadingPastTheEndGivesZerosForEver) {
-    const OneFile file;
-    putBytes(file.path, "\1");
-    clsKorvelRFile reader;
-    reader.OpenFile(file.text);
-    EXPECT_EQ(reader.PeekChunkType(), 1); // of which only the first byte is there
-    EXPECT_EQ(reader.Remaining(), 1u);
-    EXPECT_EQ(reader.readLong(), 1);
-    EXPECT_EQ(reader.Remaining(), 0u);
+    FileBeingRead file("\1");
+    EXPECT_EQ(file.reader.PeekChunkType(), 1); // of which only the first byte is there
+    EXPECT_EQ(file.reader.Remaining(), 1u);
+    EXPECT_EQ(file.reader.readLong(), 1);
+    EXPECT_EQ(file.reader.Remaining(), 0u);
     for (int times = 0; times < 3; ++times) {
-        EXPECT_EQ(reader.readString(), "");
-        EXPECT_EQ(reader.readInt(), 0);
-        EXPECT_EQ(reader.readLong(), 0);
-        EXPECT_EQ(reader.readBool(), 0);
-        EXPECT_EQ(reader.readSingle(), 0.0F);
-        EXPECT_EQ(reader.PeekChunkType(), 0);
-        reader.GoIntoChunk();
+        EXPECT_EQ(file.reader.readString(), "");
+        EXPECT_EQ(file.reader.readInt(), 0);
+        EXPECT_EQ(file.reader.readLong(), 0);
+        EXPECT_EQ(file.reader.readBool(), 0);
+        EXPECT_EQ(file.reader.readSingle(), 0.0F);
+        EXPECT_EQ(file.reader.PeekChunkType(), 0);
+        file.reader.GoIntoChunk();
     }
 }
 
 TEST(clsKorvelRFile, AStringWithoutAnEndEndsWithTheFile) {
-    const OneFile file;
-    putBytes(file.path, std::string(100000, 'a'));
-    clsKorvelRFile reader;
-    reader.OpenFile(file.text);
-    EXPECT_EQ(reader.readString(), std::string(100000, 'a'));
-    EXPECT_EQ(reader.readString(), "");
+    FileBeingRead file(std::string(100000, 'a'));
+    EXPECT_EQ(file.reader.readString(), std::string(100000, 'a'));
+    EXPECT_EQ(file.reader.readString(), "");
 }
 
 TEST(clsKorvelRFile, AnEmptyFileReadsAsZeros) {
-    const OneFile file;
-    putBytes(file.path, "");
-    clsKorvelRFile reader;
-    reader.OpenFile(file.text);
-    EXPECT_EQ(reader.PeekChunkType(), 0);
-    EXPECT_EQ(reader.readString(), "");
+    FileBeingRead file("");
+    EXPECT_EQ(file.reader.PeekChunkType(), 0);
+    EXPECT_EQ(file.reader.readString(), "");
 }
 
 TEST(clsKorvelRFile, AFileThatGrowsWhileItIsReadEndsWhereItEnded) {
-    const OneFile file;
-    putBytes(file.path, "\1");
-    clsKorvelRFile reader;
-    reader.OpenFile(file.text);
+    FileBeingRead file("\1");
     putBytes(file.path, "\1\2\3\4");
-    EXPECT_EQ(reader.readLong(), 1);
-    EXPECT_EQ(reader.Remaining(), 0u);
+    EXPECT_EQ(file.reader.readLong(), 1);
+    EXPECT_EQ(file.reader.Remaining(), 0u);
 }
 
 TEST(clsKorvelRFile, AFileThatShrinksWhileItIsReadHasZerosBehindItsEnd) {
-    const OneFile file;
-    putBytes(file.path, std::string(100000, '\1'));
-    clsKorvelRFile reader;
-    reader.OpenFile(file.text);
-    reader.readLong();
+    FileBeingRead file(std::string(100000, '\1'));
+    file.reader.readLong();
     std::filesystem::resize_file(file.path, 4);
     for (int i = 0; i < 100000 / 4; ++i)
-        reader.readLong();
-    EXPECT_EQ(reader.readLong(), 0);
-    EXPECT_EQ(reader.Remaining(), 0u);
+        file.reader.readLong();
+    EXPECT_EQ(file.reader.readLong(), 0);
+    EXPECT_EQ(file.reader.Remaining(), 0u);
 }
 
 TEST(clsKorvelRFile, AMissingFileCannotBeRead) {
     const OneFile file;
     clsKorvelRFile reader;
-    EXPECT_EQ(codeOf([&] { reader.OpenFile(file.text); }), std::errc::no_such_file_or_directory);
-    EXPECT_EQ(codeOf([&] { reader.OpenFile(""); }), std::errc::no_such_file_or_directory);
-    EXPECT_EQ(codeOf([&] { reader.readInt(); }), std::errc::bad_file_descriptor);
+    EXPECT_EQ(errorOf([&] { reader.OpenFile(file.text); }), std::errc::no_such_file_or_directory);
+    EXPECT_EQ(errorOf([&] { reader.OpenFile(""); }), std::errc::no_such_file_or_directory);
+    EXPECT_EQ(errorOf([&] { reader.readInt(); }), std::errc::bad_file_descriptor);
 }
 
 TEST(clsKorvelRFile, TheErrorNamesTheFile) {
@@ -105,46 +88,38 @@ TEST(clsKorvelRFile, TheErrorNamesTheFile) {
 }
 
 TEST(clsKorvelRFile, OpeningAnotherFileClosesTheFirst) {
-    const OneFile first;
+    FileBeingRead file("A");
+    EXPECT_EQ(file.reader.readInt(), 'A');
     const OneFile second;
-    putBytes(first.path, "A");
     putBytes(second.path, "B");
-    clsKorvelRFile reader;
-    reader.OpenFile(first.text);
-    EXPECT_EQ(reader.readInt(), 'A');
-    reader.OpenFile(second.text);
-    EXPECT_EQ(reader.readInt(), 'B');
+    file.reader.OpenFile(second.text);
+    EXPECT_EQ(file.reader.readInt(), 'B');
 }
 
 TEST(clsKorvelRFile, AFailedOpeningClosesTheFileBefore) {
-    const OneFile file;
-    putBytes(file.path, "A");
-    clsKorvelRFile reader;
-    reader.OpenFile(file.text);
-    EXPECT_THROW(reader.OpenFile(file.text + ".missing"), std::system_error);
-    EXPECT_EQ(codeOf([&] { reader.readInt(); }), std::errc::bad_file_descriptor);
+    FileBeingRead file("A");
+    EXPECT_THROW(file.reader.OpenFile(file.text + ".missing"), std::system_error);
+    EXPECT_EQ(errorOf([&] { file.reader.readInt(); }), std::errc::bad_file_descriptor);
 }
 
 TEST(clsKorvelRFile, NothingCanBeReadWithoutAFile) {
     clsKorvelRFile reader;
     reader.CloseFile();
-    EXPECT_EQ(codeOf([&] { reader.readBool(); }), std::errc::bad_file_descriptor);
-    EXPECT_EQ(codeOf([&] { static_cast<void>(reader.PeekChunkType()); }),
+    EXPECT_EQ(errorOf([&] { reader.readBool(); }), std::errc::bad_file_descriptor);
+    EXPECT_EQ(errorOf([&] { static_cast<void>(reader.PeekChunkType()); }),
               std::errc::bad_file_descriptor);
     EXPECT_EQ(reader.Remaining(), 0u);
-    const OneFile file;
-    putBytes(file.path, "abcd");
-    reader.OpenFile(file.text);
-    reader.CloseFile();
-    EXPECT_EQ(codeOf([&] { reader.readLong(); }), std::errc::bad_file_descriptor);
+    FileBeingRead file("abcd");
+    file.reader.CloseFile();
+    EXPECT_EQ(errorOf([&] { file.reader.readLong(); }), std::errc::bad_file_descriptor);
 }
 
 TEST(clsKorvelRFile, AFolderIsNoFile) {
     const OneFile file;
     clsKorvelRFile reader;
-    EXPECT_EQ(codeOf([&] { reader.OpenFile(Utf8FromPath(file.folder.Path())); }),
+    EXPECT_EQ(errorOf([&] { reader.OpenFile(Utf8FromPath(file.folder.Path())); }),
               std::errc::is_a_directory);
 }
 
 } // namespace
-} // namespace veltrix
+} // namespace veltrix::test

@@ -1,5 +1,6 @@
 #include "document/clsKorvelWFile.h"
 
+#include "tests/document/Errors.h"
 #include "tests/document/Files.h"
 
 #include <gtest/gtest.h>
@@ -10,22 +11,8 @@
 #include <string>
 #include <system_error>
 
-namespace veltrix {
+namespace veltrix::test {
 namespace {
-
-using test::bytesOf;
-using test::OneFile;
-using test::putBytes;
-
-template <typename Call>
-std::error_code codeOf(Call call) {
-    try {
-        call();
-    } catch (const std::system_error& error) {
-        return error.code();
-    }
-    return {};
-}
 
 void save(const std::string& path, std::int32_t values) {
     clsKorvelWFile file;
@@ -71,7 +58,7 @@ TEST(clsKorvelWFile, AFileThatIsNotThereIsMadeOnceItIsClosed) {
     EXPECT_FALSE(std::filesystem::exists(file.path)) << "half a file was to be seen";
     writer.CloseFile();
     EXPECT_EQ(bytesOf(file.path), std::string("\7\0\0\0", 4));
-    EXPECT_EQ(test::namesIn(file.folder.Path()).size(), 1u);
+    EXPECT_EQ(namesIn(file.folder.Path()).size(), 1u);
 }
 
 TEST(clsKorvelWFile, AnEmptyStreamMakesAnEmptyFileAndKeepsAFullOne) {
@@ -122,18 +109,18 @@ TEST(clsKorvelWFile, AStreamThatAnErrorCutsOffNeverReachesTheFile) {
     } catch (const std::overflow_error&) {
         EXPECT_EQ(bytesOf(file.path), before);
     }
-    EXPECT_EQ(test::namesIn(file.folder.Path()).size(), 1u);
+    EXPECT_EQ(namesIn(file.folder.Path()).size(), 1u);
 }
 
 TEST(clsKorvelWFile, AFileInAMissingFolderCannotBeWritten) {
     const OneFile file;
     clsKorvelWFile writer;
-    EXPECT_EQ(codeOf([&] { writer.OpenFile(file.text + "/x/y.vtx"); }),
+    EXPECT_EQ(errorOf([&] { writer.OpenFile(file.text + "/x/y.vtx"); }),
               std::errc::no_such_file_or_directory);
-    EXPECT_EQ(codeOf([&] { writer.OpenFile(""); }), std::errc::no_such_file_or_directory);
-    EXPECT_TRUE(test::namesIn(file.folder.Path()).empty());
+    EXPECT_EQ(errorOf([&] { writer.OpenFile(""); }), std::errc::no_such_file_or_directory);
+    EXPECT_TRUE(namesIn(file.folder.Path()).empty());
     putBytes(file.path, "a file where the path needs a folder");
-    EXPECT_EQ(codeOf([&] { writer.OpenFile(file.text + "/y.vtx"); }), std::errc::not_a_directory);
+    EXPECT_EQ(errorOf([&] { writer.OpenFile(file.text + "/y.vtx"); }), std::errc::not_a_directory);
 }
 
 TEST(clsKorvelWFile, OpeningAnotherFileClosesTheFirst) {
@@ -157,28 +144,28 @@ TEST(clsKorvelWFile, AFailedOpeningClosesTheFileBefore) {
     EXPECT_THROW(writer.OpenFile(Utf8FromPath(file.folder.Path() / "missing" / "x.vtx")),
                  std::system_error);
     EXPECT_EQ(bytesOf(file.path), "AB");
-    EXPECT_EQ(codeOf([&] { writer.writeInt(1); }), std::errc::bad_file_descriptor);
+    EXPECT_EQ(errorOf([&] { writer.writeInt(1); }), std::errc::bad_file_descriptor);
 }
 
 TEST(clsKorvelWFile, NothingCanBeWrittenWithoutAFile) {
     clsKorvelWFile writer;
     writer.CloseFile();
-    EXPECT_EQ(codeOf([&] { writer.writeInt(1); }), std::errc::bad_file_descriptor);
-    EXPECT_EQ(codeOf([&] { writer.BeginChunk(1); }), std::errc::bad_file_descriptor);
+    EXPECT_EQ(errorOf([&] { writer.writeInt(1); }), std::errc::bad_file_descriptor);
+    EXPECT_EQ(errorOf([&] { writer.BeginChunk(1); }), std::errc::bad_file_descriptor);
     const OneFile file;
     writer.OpenFile(file.text);
     writer.CloseFile();
     writer.CloseFile();
-    EXPECT_EQ(codeOf([&] { writer.writeBool(true); }), std::errc::bad_file_descriptor);
+    EXPECT_EQ(errorOf([&] { writer.writeBool(true); }), std::errc::bad_file_descriptor);
 }
 
 TEST(clsKorvelWFile, AFolderIsNoFile) {
     const OneFile file;
     const std::string folder = Utf8FromPath(file.folder.Path());
     clsKorvelWFile writer;
-    EXPECT_EQ(codeOf([&] { writer.OpenFile(folder); }), std::errc::is_a_directory);
-    EXPECT_EQ(codeOf([&] { writer.OpenFile(folder + "/"); }), std::errc::is_a_directory);
+    EXPECT_EQ(errorOf([&] { writer.OpenFile(folder); }), std::errc::is_a_directory);
+    EXPECT_EQ(errorOf([&] { writer.OpenFile(folder + "/"); }), std::errc::is_a_directory);
 }
 
 } // namespace
-} // namespace veltrix
+} // namespace veltrix::test
