@@ -10,12 +10,14 @@
 
 namespace veltrix::test {
 
+/// A clock that stands until the test turns it.
 struct FakeClock : Clock {
     float Timer() override { return now; }
 
     float now = 0;
 };
 
+/// A pointer where the test puts it, over the board at first.
 struct FakePointer : Pointer {
     Point BoardPosition() override { return position; }
 
@@ -25,18 +27,21 @@ struct FakePointer : Pointer {
     bool overBareMainWindow = false;
 };
 
+/// A room as loud as the test says.
 struct FakeSoundSensor : SoundSensor {
     std::int32_t GetVolume() override { return volume; }
 
     std::int32_t volume = 0;
 };
 
+/// Keeps the names of the sounds, and plays none.
 struct FakeSoundPlayer : SoundPlayer {
     void Play(const std::string& name) override { played.push_back(name); }
 
     std::vector<std::string> played;
 };
 
+/// Keeps what it was told; the test calls the ticks itself.
 struct FakeTickTimer : TickTimer {
     void SetEnabled(bool Enabled) override { enabled = Enabled; }
 
@@ -46,13 +51,11 @@ struct FakeTickTimer : TickTimer {
     std::int32_t interval = 0;
 };
 
+/// Follows no pointer: nothing is drawn and no socket is marked.
 struct FakeFollower : PointerFollower {
-    void MoveLooseEnd() override { ++moves; }
+    void MoveLooseEnd() override {}
 
-    void MarkSocket() override { ++marks; }
-
-    int moves = 0;
-    int marks = 0;
+    void MarkSocket() override {}
 };
 
 /// A board that ticks, without a window: the test turns the clock and moves the pointer.
