@@ -15,7 +15,8 @@ import tempfile
 import time
 import unittest
 
-import board_model
+from board_document import Board
+from board_sockets import PLACE
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 BUILD = pathlib.Path(os.environ.get("VELTRIX_BUILD", ROOT / "build/release"))
@@ -250,7 +251,7 @@ class Veltrix(Window):
     # The board: places are sockets by name, or board pixels
 
     def place(self, where):
-        x, y = board_model.PLACE[where] if isinstance(where, str) else where
+        x, y = PLACE[where] if isinstance(where, str) else where
         return int((x + 0.5) * self.scale), self.menu + int((y + 0.5) * self.scale)
 
     def move(self, where):
@@ -316,7 +317,7 @@ class DesktopTest(unittest.TestCase):
 
     def render(self, board, scale=1, ticks=10):
         """The picture of a board after some ticks, drawn without a window."""
-        document = self.put("render.vtx", board) if isinstance(board, board_model.Board) else board
+        document = self.put("render.vtx", board) if isinstance(board, Board) else board
         picture = self.files / "render.png"
         subprocess.run([BUILD / "veltrix-cli", "render", document, "--ticks", str(ticks),
                         "--scale", str(scale), "--out", picture], check=True, timeout=LIMIT)

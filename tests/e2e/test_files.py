@@ -1,4 +1,4 @@
-from board_model import Board
+from board_document import Board
 from desktop import DesktopTest, until
 
 BUTTON, FIRST, LAST = "Drukknop 1", "Drukknop 1 Uit Geel", "LED 1 Ingang"

@@ -1,6 +1,7 @@
 import re
 
-from board_model import PLACE, Board
+from board_document import Board
+from board_sockets import PLACE
 from desktop import HEIGHT, WIDTH, DesktopTest, until, whole
 
 MINIMISE, MAXIMISE, CLOSE = 0x08, 0x10, 0x20  # of a window's functions, in the Motif hints

@@ -2,7 +2,7 @@ import os
 import pathlib
 import time
 
-from board_model import Board
+from board_document import Board
 from desktop import SANITIZED, DesktopTest
 
 SECONDS = 3

@@ -1,4 +1,5 @@
-from board_model import PLACE, Board
+from board_document import Board
+from board_sockets import PLACE
 from desktop import DesktopTest, until
 
 BUTTON, FIRST, LAST = "Drukknop 1", "Drukknop 1 Uit Geel", "LED 1 Ingang"

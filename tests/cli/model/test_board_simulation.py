@@ -1,10 +1,12 @@
-"""Holds the model to cases worked out by hand: what compare.py measures the program with has to be
-right by itself."""
+"""Holds the ticks of the board in Python to cases worked out by hand: what compare.py measures the
+program with has to be right by itself."""
 import struct
 import unittest
 
-import board_model
-from board_model import Board, DocumentError, Simulation, Wire
+import board_simulation
+from board_document import Board
+from board_simulation import Simulation, Wire
+from board_sockets import CONNECTABLE
 
 MIDNIGHT_TO_NOON = 12 * 60 * 60 * 100
 
@@ -202,12 +204,12 @@ class Sources(Ticks):
         self.assertEqual(self.simulation.elapsed, 3.0)
 
     def test_clock_is_single_precision(self):
-        self.assertEqual(board_model.clock(1), struct.unpack("<f", b"\x0a\xd7\x23\x3c")[0])
-        self.assertEqual(board_model.clock(MIDNIGHT_TO_NOON), 43200.0)
-        self.assertNotEqual(board_model.clock(10), 0.1)
+        self.assertEqual(board_simulation.clock(1), struct.unpack("<f", b"\x0a\xd7\x23\x3c")[0])
+        self.assertEqual(board_simulation.clock(MIDNIGHT_TO_NOON), 43200.0)
+        self.assertNotEqual(board_simulation.clock(10), 0.1)
 
     def test_a_name_added_twice_keeps_its_first_level(self):
-        levels = board_model.Levels()
+        levels = board_simulation.Levels()
         levels.add("Zoemer", 3)
         levels.add("Zoemer", 4)
         self.assertEqual((levels.get("Zoemer"), levels.size), (3, 2))
@@ -226,7 +228,7 @@ class Outputs(Ticks):
         self.start(("Drukknop 1 Uit Geel", "LED 1 Ingang"), buttons=[True, False], counter=3)
         self.simulation.tick()
         row = self.simulation.row()
-        header = ("tick",) + board_model.CONNECTABLE
+        header = ("tick",) + CONNECTABLE
         self.assertEqual(row[0], "1")
         self.assertEqual(row[header.index("LED 1 Ingang")], "50")
         self.assertEqual(row[header.index("LED 2 Ingang")], "")
@@ -282,109 +284,6 @@ class Wires(Ticks):
         self.assertIn("colour", self.simulation.fault)
         self.assertIsNone(self.level("Invertor Uitgang"))
         self.assertIn("overflow", self.simulation.fault)
-
-
-class Conflicts(unittest.TestCase):
-    def test_no_wires(self):
-        self.assertEqual(board_model.report([]), "")
-
-    def test_two_outputs_at_one_input(self):
-        wires = [("Sensor 1 Uit Geel", "EN-poort Ingang 1"),
-                 ("EN-poort Ingang 1", "Drukknop 1 Uit Geel")]
-        self.assertEqual(board_model.report(wires),
-                         '"Sensor 1 Uit Geel" en "Drukknop 1 Uit Geel"\r\n')
-
-    def test_chain(self):
-        wires = [("LED 1 Ingang", "LED 2 Ingang"), ("LED 2 Ingang", "OF-poort Uit"),
-                 ("EN-poort Uit", "LED 1 Ingang")]
-        self.assertEqual(board_model.conflicts(wires), [["EN-poort Uit", "OF-poort Uit"]])
-
-    def test_two_nets(self):
-        wires = [("OF-poort Uit", "EN-poort Uit"), ("Zoemer", "LED 1 Ingang"),
-                 ("Geheugen Uit", "Invertor Uitgang")]
-        self.assertEqual(board_model.conflicts(wires), [["OF-poort Uit", "EN-poort Uit"],
-                                                        ["Geheugen Uit", "Invertor Uitgang"]])
-
-    def test_ring_meets_its_output_again(self):
-        output, first, second = "OF-poort Uit", "LED 1 Ingang", "LED 2 Ingang"
-        ring = [(first, output), (first, second), (second, output)]
-        self.assertEqual(board_model.conflicts(ring), [[output, output]])
-        self.assertEqual(board_model.conflicts([(output, first)] + ring[1:]), [])
-
-    def test_relay_contact_is_no_output(self):
-        self.assertEqual(board_model.conflicts([("Relais Ingang 1 (in/uit)", "OF-poort Uit")]), [])
-
-    def test_wire_to_itself(self):
-        # Both its ends and, from a neighbour, both its directions count.
-        self.assertEqual(board_model.conflicts([("OF-poort Uit", "OF-poort Uit")]),
-                         [["OF-poort Uit"] * 2])
-        self.assertEqual(board_model.conflicts([("Zoemer", "OF-poort Uit"),
-                                                ("OF-poort Uit", "OF-poort Uit")]),
-                         [["OF-poort Uit"] * 3])
-
-    def test_bar_in_a_name(self):
-        self.assertEqual(board_model.conflicts([("OF-poort Uit|EN-poort Uit", "Zoemer")]),
-                         [["OF-poort Uit", "EN-poort Uit"]])
-
-    def test_long_chain(self):
-        wires = [(f"{number}", f"{number + 1}") for number in range(5000)]
-        self.assertEqual(board_model.conflicts(wires), [])
-
-    def test_names_and_repetitions(self):
-        wires = [("Zoemer", "elders"), ("zoemer", "Zoemer"), ("elders", "Zoemer"),
-                 ("Zoemer", "elders")]
-        self.assertEqual(board_model.strangers(wires), [(1, "elders"), (2, "zoemer"),
-                                                        (3, "elders"), (4, "elders")])
-        self.assertEqual(board_model.strangers([("Drukknop 1", "Zoemer")]), [(1, "Drukknop 1")])
-        self.assertEqual(board_model.repeated(wires), [(3, 1), (4, 1)])
-        self.assertEqual(board_model.repeated([("a", "a"), ("a", "b"), ("a", "a")]), [(3, 1)])
-
-
-class Documents(unittest.TestCase):
-    def test_empty_board(self):
-        data = Board().write()
-        self.assertEqual(data, bytes.fromhex("dada 2e000000 0010 22000000") + bytes(34)
-                         + bytes.fromhex("0020 00000000"))
-        self.assertEqual(board_model.read(data), Board())
-
-    def test_a_wire_takes_its_names(self):
-        data = Board(wires=[("Sensor 1 Uit Geel", "LED 1 Ingang")]).write()
-        self.assertEqual(len(data), 52 + 31)
-        self.assertEqual(struct.unpack_from("<i", data, 2)[0], 46 + 31)
-        self.assertTrue(data.endswith(b"\x1f\0\0\0Sensor 1 Uit Geel\0LED 1 Ingang\0"))
-
-    def test_order_of_the_settings(self):
-        data = Board(counter=4, sensors=[5, 6], pulse=7, comparator=8, voltage=-9,
-                     buttons=[False, True]).write()
-        self.assertEqual(struct.unpack_from("<8i2B", data, 12),
-                         (0, 0, 4, 5, 6, 7, 8, -9, 0, 255))
-        self.assertEqual(board_model.read(data).write(), data)
-
-    def test_only_one_byte_means_pressed(self):
-        data = bytearray(Board().write())
-        for byte, pressed in ((0x00, False), (0x01, False), (0xFE, False), (0xFF, True)):
-            data[44] = byte
-            self.assertEqual(board_model.read(data).buttons, [pressed, False])
-
-    def test_every_byte_has_a_character(self):
-        every = bytes(range(1, 256))
-        self.assertEqual(board_model.bytes_of(board_model.text_of(every)), every)
-        self.assertEqual(board_model.text_of(b"\x80\x81\xe9"), "\u20ac\x81\u00e9")
-
-    def test_tail_of_an_earlier_document(self):
-        data = Board(wires=[("a", "b")]).write()
-        self.assertEqual(board_model.read(data + b"tail").write(), data)
-
-    def test_broken(self):
-        data = Board(wires=[("a", "b")], counter=9).write()
-        for end in range(len(data)):
-            with self.subTest(end=end), self.assertRaises(DocumentError):
-                board_model.read(data[:end])
-        for place, byte in ((0, 0), (6, 1), (46, 1), (20, 10), (16, 2), (19, 255)):
-            broken = bytearray(data)
-            broken[place] = byte
-            with self.subTest(place=place), self.assertRaises(DocumentError):
-                board_model.read(broken)
 
 
 if __name__ == "__main__":
