@@ -24,10 +24,10 @@ class Build(PlantedTree):
     def build(self, *arguments):
         return self.start("tools/build", *arguments)
 
-    def test_builds_without_a_word(self):
+    def test_builds_in_one_line(self):
         result = self.build("release")
         self.assert_passes(result)
-        self.assertEqual(result.stdout + result.stderr, "")
+        self.assertEqual(result.stdout + result.stderr, "OK: build (preset release)\n")
         self.assertEqual((self.tree / "build/release/made").read_text(), "first\n")
 
     def test_shows_why_building_failed(self):

@@ -24,6 +24,13 @@ class Summary(PlantedTree):
         self.assert_fails(result)
         self.assertEqual(self.last_line(result), "1 passed, 1 failed")
 
+    def test_every_check_has_a_line_and_the_tests_of_a_program_are_one(self):
+        tests = ("add_test(check.words true)\nadd_test(check.tidy false)\n"
+                 "add_test(tests_sim.Tick.One true)\nadd_test(tests_sim.clsGraph.Two true)\n"
+                 "add_test(tests_cli.Script.One true)\nadd_test(tests_cli.Script.Two false)\n")
+        self.assert_fails(self.summary(tests), "FAIL: check.tidy\nOK: check.words\n"
+                          "FAIL: tests_cli (1 passed, 1 failed)\nOK: tests_sim (2 passed)\n")
+
     def test_program_that_was_not_built_is_a_failure(self):
         result = self.summary("add_test(one true)\nadd_test(two /does/not/exist)\n")
         self.assert_fails(result)
