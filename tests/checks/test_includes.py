@@ -1,12 +1,9 @@
-import subprocess
-
 from planted import ROOT, PlantedTree
 
 
 class Includes(PlantedTree):
     def check(self):
-        return subprocess.run([ROOT / "tools/checks/includes", self.tree], capture_output=True,
-                              text=True)
+        return self.start(str(ROOT / "tools/checks/includes"), str(self.tree))
 
     def assert_allowed(self, name, line):
         self.plant(name, line + "\n")

@@ -1,12 +1,9 @@
-import subprocess
-
 from planted import ROOT, PlantedTree
 
 
 class Untested(PlantedTree):
     def check(self):
-        return subprocess.run([ROOT / "tools/checks/untested", self.tree], capture_output=True,
-                              text=True)
+        return self.start(str(ROOT / "tools/checks/untested"), str(self.tree))
 
     def test_tested_headers_pass(self):
         self.plant("board/a.h")

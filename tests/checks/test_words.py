@@ -1,12 +1,9 @@
-import subprocess
-
 from planted import ROOT, PlantedTree
 
 
 class Words(PlantedTree):
     def check(self):
-        return subprocess.run([ROOT / "tools/checks/words", self.tree], capture_output=True,
-                              text=True)
+        return self.start(str(ROOT / "tools/checks/words"), str(self.tree))
 
     def assert_found(self, text, fault, name="board/bad.h"):
         path = self.plant(name, text)

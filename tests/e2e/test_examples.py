@@ -25,8 +25,8 @@ class Examples(DesktopTest):
         rung = self.files / "gebeld.vtx"
         script = self.files / "bel.csv"
         script.write_text("tick,control,value\n1,Drukknop 1,1\n")
-        subprocess.run([BUILD / "veltrix-cli", "run", path, "--script", script, "--rows", "last", "--save",
-                        rung], check=True, stdout=subprocess.DEVNULL)
+        subprocess.run([BUILD / "veltrix-cli", "run", path, "--script", script, "--rows", "last",
+                        "--save", rung], check=True, stdout=subprocess.DEVNULL)
         veltrix.click("Drukknop 1")
         veltrix.leave()
         veltrix.shows("the bell that rings", self.render(rung))
