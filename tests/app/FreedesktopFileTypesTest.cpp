@@ -1,15 +1,17 @@
 #include "app/FreedesktopFileTypes.h"
 
+#include "tests/document/Files.h"
 #include "tests/support/TempFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <fstream>
+#include <filesystem>
 #include <iterator>
 #include <map>
 #include <string>
+#include <vector>
 
 namespace veltrix::test {
 
@@ -24,14 +26,10 @@ using testing::SizeIs;
 
 constexpr int sizes[] = {16, 24, 32, 48, 64, 128, 256};
 
-std::string contentOf(const fs::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
+/// Writes a file, in a folder that need not be there.
 void put(const fs::path& file, const std::string& content) {
     fs::create_directories(file.parent_path());
-    std::ofstream(file, std::ios::binary) << content;
+    putBytes(file, content);
 }
 
 /// Every file below a folder with its content.
@@ -40,7 +38,7 @@ std::map<std::string, std::string> filesOf(const fs::path& folder) {
     if (fs::exists(folder))
         for (const auto& entry : fs::recursive_directory_iterator(folder))
             if (entry.is_regular_file())
-                files[fs::relative(entry.path(), folder).string()] = contentOf(entry.path());
+                files[fs::relative(entry.path(), folder).string()] = bytesOf(entry.path());
     return files;
 }
 
@@ -124,7 +122,7 @@ TEST_F(FreedesktopFileTypesTest, OnlyWhatDiffersIsWritten) {
     const auto indexes = Write();
     ASSERT_THAT(indexes, SizeIs(1));
     EXPECT_EQ(indexes[0].Program, "update-desktop-database");
-    EXPECT_THAT(contentOf(Home() / "applications/veltrix.desktop"), HasSubstr("Name=Veltrix\n"));
+    EXPECT_THAT(bytesOf(Home() / "applications/veltrix.desktop"), HasSubstr("Name=Veltrix\n"));
 }
 
 TEST_F(FreedesktopFileTypesTest, NewIconsMakeTheThemeNew) {
@@ -134,7 +132,7 @@ TEST_F(FreedesktopFileTypesTest, NewIconsMakeTheThemeNew) {
     fs::last_write_time(theme, past);
     put(theme / "16x16/apps/veltrix.png", "an older icon");
     Write();
-    EXPECT_EQ(contentOf(theme / "16x16/apps/veltrix.png"), "window icon-16.png");
+    EXPECT_EQ(bytesOf(theme / "16x16/apps/veltrix.png"), "window icon-16.png");
     EXPECT_GT(fs::last_write_time(theme), past);
 }
 
@@ -147,7 +145,7 @@ TEST_F(FreedesktopFileTypesTest, IconsThatTheProgramLacksAreLeftOut) {
 TEST_F(FreedesktopFileTypesTest, AHomeThatCannotBeWrittenIsLeftAlone) {
     put(folder.Path() / "home", "a file where the folder should be");
     EXPECT_THAT(Write(), IsEmpty());
-    EXPECT_EQ(contentOf(folder.Path() / "home"), "a file where the folder should be");
+    EXPECT_EQ(bytesOf(folder.Path() / "home"), "a file where the folder should be");
 }
 
 TEST_F(FreedesktopFileTypesTest, NoHalfFileStaysWhereOneCannotBeReplaced) {
@@ -195,7 +193,7 @@ TEST_F(FreedesktopFileTypesTest, AnOldEntryOfTheUserWouldHideThatOfAll) {
     put(Home() / "applications/veltrix.desktop", "[Desktop Entry]\nExec=/gone/veltrix %f\n");
     dataFolders = {share};
     Write();
-    EXPECT_THAT(contentOf(Home() / "applications/veltrix.desktop"),
+    EXPECT_THAT(bytesOf(Home() / "applications/veltrix.desktop"),
                 HasSubstr("Exec=" + Program().string() + " %f\n"));
 }
 

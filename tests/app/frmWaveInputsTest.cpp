@@ -4,13 +4,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
-namespace veltrix {
+namespace veltrix::test {
 namespace {
 
 using testing::ElementsAre;
@@ -19,7 +18,7 @@ using testing::Pair;
 
 /// The dialog over a computer with these inputs.
 struct Dialog {
-    explicit Dialog(std::vector<test::FakeInputs::Input> inputs, const std::string& setting = {})
+    explicit Dialog(std::vector<FakeInputs::Input> inputs, const std::string& setting = {})
         : sound(std::move(inputs)) {
         sound.settings.value = setting;
         wi.emplace(sound.Captures(), sound.settings);
@@ -31,12 +30,12 @@ struct Dialog {
         return seen.widths.at(meter);
     }
 
-    test::FakeSoundInputs sound;
-    test::FakeWaveInputsViews views;
-    test::FakeProgramStart programs;
+    FakeSoundInputs sound;
+    FakeWaveInputsViews views;
+    FakeProgramStart programs;
     std::optional<UCWaveIn> wi;
     frmWaveInputs form{views.Create(), programs};
-    test::FakeWaveInputs& seen = views.dialogs.back();
+    FakeWaveInputs& seen = views.dialogs.back();
 };
 
 constexpr std::int32_t sensor = WaveInputsView::SensorMeter;
@@ -133,39 +132,5 @@ TEST(frmWaveInputs, WithoutSoundSettingsTheButtonIsSilent) {
     EXPECT_EQ(dialog.programs.asked, modControlPanel::SoundSettings());
 }
 
-TEST(mnuGeluidSensor, EveryClickShowsADialogOfItsOwn) {
-    test::MemoryDesktop desktop;
-    desktop.Start();
-    desktop.waveInputs.whileShown = [](frmWaveInputs& dialog, test::FakeWaveInputs& seen) {
-        dialog.Timer1_Timer();
-        EXPECT_EQ(seen.inputCount, "Aantal inputs: 0") << "it is constructed before it is shown";
-        EXPECT_EQ(seen.widths.count(sensor), 1U);
-        dialog.btnOK_Click();
-    };
-    desktop.edge.Command([](FORM1& form) { form.mnuGeluidSensor_Click(); });
-    desktop.edge.Command([](FORM1& form) { form.mnuGeluidSensor_Click(); });
-    ASSERT_EQ(desktop.waveInputs.dialogs.size(), 2U);
-    for (const test::FakeWaveInputs& dialog : desktop.waveInputs.dialogs) {
-        EXPECT_EQ(dialog.shown, 1);
-        EXPECT_TRUE(dialog.unloaded);
-    }
-}
-
-TEST(mnuGeluidSensor, TheBoardHearsTheFirstInput) {
-    test::MemoryDesktop desktop(std::vector<test::FakeInputs::Input>{{"Mic"}, {"Webcam"}});
-    FORM1& form = desktop.form;
-    test::FakeSoundInputs& sound = desktop.sound;
-    form.Form_Load();
-    form.UCWaveIn1.Timer1_Timer();
-    EXPECT_EQ(sound.taps[0].starts, 1);
-    sound.taps[0].level = 100;
-    form.Timer1_Timer();
-    EXPECT_EQ(form.TheGraph().GetPuntValueByName("Geluids Sensor Uit Geel", 0), 50);
-    sound.taps[0].level = 50;
-    sound.taps[1].level = 1000;
-    form.Timer1_Timer();
-    EXPECT_EQ(form.TheGraph().GetPuntValueByName("Geluids Sensor Uit Geel", 0), 25);
-}
-
 } // namespace
-} // namespace veltrix
+} // namespace veltrix::test

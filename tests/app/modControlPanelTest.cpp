@@ -1,20 +1,24 @@
 #include "app/modControlPanel.h"
 #include "tests/support/MemoryDesktop.h"
+#ifndef _WIN32
+#include "tests/app/EnvironmentVariable.h"
+#endif
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
+#include <optional>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
-namespace veltrix {
+namespace veltrix::test {
 namespace {
 
 using testing::ElementsAre;
-using testing::SizeIs;
 
 TEST(modControlPanel, WhetherTheProgramStartedIsTheAnswer) {
-    test::FakeProgramStart start;
+    FakeProgramStart start;
     start.installed = "here";
     EXPECT_TRUE(modControlPanel::Run(start, "here with arguments"));
     EXPECT_FALSE(modControlPanel::Run(start, "gone"));
@@ -37,39 +41,32 @@ TEST(modControlPanel, TheSoundSettingsAreASheetOfTheControlPanel) {
                 ElementsAre("rundll32.exe shell32.dll,Control_RunDLL mmsys.cpl @1"));
 }
 #else
-class SoundSettingsOn : public testing::Test {
-protected:
-    ~SoundSettingsOn() override { unsetenv("XDG_CURRENT_DESKTOP"); }
-
-    static std::string firstOn(const char* desktop) {
-        setenv("XDG_CURRENT_DESKTOP", desktop, 1);
-        return modControlPanel::SoundSettings().front();
-    }
-};
-
-TEST_F(SoundSettingsOn, EveryDesktopItsOwnComeFirst) {
-    EXPECT_EQ(firstOn("GNOME"), "gnome-control-center sound");
-    EXPECT_EQ(firstOn("ubuntu:GNOME"), "gnome-control-center sound");
-    EXPECT_EQ(firstOn("GNOME-Flashback:GNOME"), "gnome-control-center sound");
-    EXPECT_EQ(firstOn("KDE"), "systemsettings kcm_pulseaudio");
-    EXPECT_EQ(firstOn("X-Cinnamon"), "cinnamon-settings sound");
-    EXPECT_EQ(firstOn("MATE"), "mate-volume-control");
-    EXPECT_EQ(firstOn("LXQt"), "pavucontrol-qt");
+std::vector<std::string> settingsOn(const std::optional<std::string>& desktop) {
+    const EnvironmentVariable variable("XDG_CURRENT_DESKTOP", desktop);
+    return modControlPanel::SoundSettings();
 }
 
-TEST_F(SoundSettingsOn, AnyOtherDesktopHasThoseThatServeAll) {
+TEST(modControlPanel, TheDesktopsOwnSoundSettingsComeFirst) {
+    EXPECT_EQ(settingsOn("GNOME").front(), "gnome-control-center sound");
+    EXPECT_EQ(settingsOn("ubuntu:GNOME").front(), "gnome-control-center sound");
+    EXPECT_EQ(settingsOn("GNOME-Flashback:GNOME").front(), "gnome-control-center sound");
+    EXPECT_EQ(settingsOn("KDE").front(), "systemsettings kcm_pulseaudio");
+    EXPECT_EQ(settingsOn("X-Cinnamon").front(), "cinnamon-settings sound");
+    EXPECT_EQ(settingsOn("MATE").front(), "mate-volume-control");
+    EXPECT_EQ(settingsOn("LXQt").front(), "pavucontrol-qt");
+}
+
+TEST(modControlPanel, AnyOtherDesktopHasThoseThatServeAll) {
     for (const char* desktop : {"XFCE", "", ":", "GNOMEX", "gnome"})
-        EXPECT_EQ(firstOn(desktop), "pavucontrol") << desktop;
-    unsetenv("XDG_CURRENT_DESKTOP");
-    EXPECT_THAT(modControlPanel::SoundSettings(), ElementsAre("pavucontrol", "pavucontrol-qt"));
+        EXPECT_EQ(settingsOn(desktop).front(), "pavucontrol") << desktop;
+    EXPECT_THAT(settingsOn(std::nullopt), ElementsAre("pavucontrol", "pavucontrol-qt"));
 }
 
-TEST_F(SoundSettingsOn, ADesktopFallsBackOnThoseThatServeAll) {
-    setenv("XDG_CURRENT_DESKTOP", "MATE", 1);
-    EXPECT_THAT(modControlPanel::SoundSettings(),
+TEST(modControlPanel, ADesktopFallsBackOnThoseThatServeAll) {
+    EXPECT_THAT(settingsOn("MATE"),
                 ElementsAre("mate-volume-control", "pavucontrol", "pavucontrol-qt"));
 }
 #endif
 
 } // namespace
-} // namespace veltrix
+} // namespace veltrix::test

@@ -22,6 +22,15 @@
 
 namespace veltrix::test {
 
+/// The message boxes of a window that are to be seen.
+inline QList<QMessageBox*> visibleBoxes(const QWidget& window) {
+    QList<QMessageBox*> shown;
+    for (auto* box : window.findChildren<QMessageBox*>())
+        if (box->isVisible())
+            shown << box;
+    return shown;
+}
+
 /// Answers the boxes and file dialogs that are going to open, one after the other, and keeps what
 /// they said. A box that no answer was put ready for fails the test, and is closed so that the test
 /// ends.

@@ -1,29 +1,27 @@
 #include "app/qt/DutchTexts.h"
 
+#include "tests/app/qt/ContextMenu.h"
 #include "tests/app/qt/PrintTo.h"
 #include "tests/app/qt/WaitUntil.h"
+#include "tests/app/qt/WhenUp.h"
 #include "tests/support/TempFolder.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QContextMenuEvent>
 #include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
 #include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
 #include <QTextBrowser>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <functional>
 
 namespace veltrix::test {
 
@@ -63,37 +61,12 @@ struct DutchTextsTest : testing::Test {
     /// Opens a menu by the right mouse button and gives its items, without access keys.
     static QStringList menuOf(QWidget& widget) {
         QStringList items;
-        QTimer look;
-        QObject::connect(&look, &QTimer::timeout, &look, [&] {
-            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-            if (menu == nullptr)
-                return;
-            for (const QAction* action : menu->actions())
+        withContextMenu(widget, [&](const QMenu& menu) {
+            for (const QAction* action : menu.actions())
                 if (!action->isSeparator())
                     items << action->text().remove('&').section('\t', 0, 0);
-            menu->close();
         });
-        look.start(1);
-        const QPoint middle = widget.rect().center();
-        QContextMenuEvent event(QContextMenuEvent::Mouse, middle, widget.mapToGlobal(middle));
-        QApplication::sendEvent(&widget, &event);
-        EXPECT_TRUE(waitUntil([&] { return !items.isEmpty(); }));
         return items;
-    }
-
-    /// Does something while another dialog is up before all others.
-    template <typename Dialog>
-    static void whenUp(std::function<void(Dialog&)> act) {
-        auto* timer = new QTimer(qApp);
-        const QPointer<QWidget> before = QApplication::activeModalWidget();
-        QObject::connect(timer, &QTimer::timeout, timer, [=] {
-            auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-            if (dialog == nullptr || dialog == before || !dialog->isVisible())
-                return;
-            delete timer;
-            act(*dialog);
-        });
-        timer->start(1);
     }
 
     Unanswered unanswered;
@@ -173,7 +146,7 @@ TEST_F(DutchTextsTest, TheQuestionsOfFileDialogsAreDutch) {
         auto* field = dialog.findChild<QLineEdit*>("fileNameEdit");
         field->setText(name);
         const qsizetype before = asked.size();
-        whenUp<QMessageBox>([&](QMessageBox& box) {
+        const WhenUp<QMessageBox> question([&](QMessageBox& box) {
             asked << box.text().section('\n', 1);
             box.reject();
         });
@@ -198,7 +171,7 @@ TEST_F(DutchTextsTest, RemovingAFileIsAskedInDutch) {
     ASSERT_TRUE(waitUntil([&] { return list->model()->rowCount(list->rootIndex()) == 1; }));
     list->setCurrentIndex(list->model()->index(0, 0, list->rootIndex()));
     QString asked;
-    whenUp<QMessageBox>([&](QMessageBox& box) {
+    const WhenUp<QMessageBox> question([&](QMessageBox& box) {
         asked = box.text();
         box.reject();
     });

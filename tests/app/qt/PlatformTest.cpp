@@ -1,5 +1,6 @@
 #include "app/qt/Platform.h"
 
+#include "tests/app/EnvironmentVariable.h"
 #include "tests/app/qt/WaitUntil.h"
 #include "tests/support/TempFolder.h"
 
@@ -8,7 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <cstdlib>
+#include <filesystem>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -17,36 +18,10 @@ namespace veltrix::test {
 
 namespace {
 
-/// Sets a variable, or takes it away, for as long as it lives.
-class Variable {
-public:
-    Variable(const char* name, const std::optional<std::string>& value) : name_(name) {
-        if (const char* before = std::getenv(name))
-            before_ = before;
-        set(value);
-    }
-
-    Variable(const Variable&) = delete;
-    Variable& operator=(const Variable&) = delete;
-
-    ~Variable() { set(before_); }
-
-private:
-    void set(const std::optional<std::string>& value) {
-        if (value)
-            ::setenv(name_, value->c_str(), 1);
-        else
-            ::unsetenv(name_);
-    }
-
-    const char* name_;
-    std::optional<std::string> before_;
-};
-
 struct PlatformTest : testing::Test {
-    Variable display{"DISPLAY", std::nullopt};
-    Variable wayland{"WAYLAND_DISPLAY", std::nullopt};
-    Variable platform{"QT_QPA_PLATFORM", std::nullopt};
+    EnvironmentVariable display{"DISPLAY", std::nullopt};
+    EnvironmentVariable wayland{"WAYLAND_DISPLAY", std::nullopt};
+    EnvironmentVariable platform{"QT_QPA_PLATFORM", std::nullopt};
 };
 
 template <typename... Arguments>
@@ -58,13 +33,13 @@ std::optional<std::string> reasonWith(Arguments... arguments) {
 TEST_F(PlatformTest, WithoutADisplayTheReasonIsOneLine) {
     EXPECT_EQ(reasonWith(), "neither DISPLAY nor WAYLAND_DISPLAY is set");
     EXPECT_TRUE(reasonWith("bord.vtx"));
-    const Variable empty("DISPLAY", "");
+    const EnvironmentVariable empty("DISPLAY", "");
     EXPECT_TRUE(reasonWith());
 }
 
 TEST_F(PlatformTest, ADisplayThatIsNamedIsTried) {
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
-        const Variable named(name, "x");
+        const EnvironmentVariable named(name, "x");
         EXPECT_FALSE(reasonWith()) << name;
     }
     EXPECT_FALSE(reasonWith("-platform", "offscreen"));
@@ -74,8 +49,8 @@ TEST_F(PlatformTest, ADisplayThatIsNamedIsTried) {
 
 TEST_F(PlatformTest, TheDocumentTypeIsRegisteredForTheUserAfterAWhile) {
     const TempFolder folder;
-    const Variable home("XDG_DATA_HOME", folder.Path().string());
-    const Variable data("XDG_DATA_DIRS", "/nowhere");
+    const EnvironmentVariable home("XDG_DATA_HOME", folder.Path().string());
+    const EnvironmentVariable data("XDG_DATA_DIRS", "/nowhere");
     const auto entry = folder.Path() / "applications/veltrix.desktop";
     MakeFileTypes("/opt/veltrix/veltrix")->RegisterFileType();
     EXPECT_FALSE(std::filesystem::exists(entry)) << "the start does not wait for it";

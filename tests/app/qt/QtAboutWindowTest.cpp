@@ -1,19 +1,19 @@
 #include "app/qt/QtAboutWindow.h"
 
+#include "tests/app/qt/Centred.h"
 #include "tests/app/qt/PrintTo.h"
+#include "tests/app/qt/WhenUp.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/TempFolder.h"
 
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
 #include <QTest>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include <cstdlib>
 #include <functional>
 #include <system_error>
 
@@ -29,18 +29,8 @@ struct QtAboutWindowTest : testing::Test {
 
     /// Shows the window as the menu does; `look` sees it, and has to close it.
     void Show(const std::function<void(QtAboutWindow&)>& look) {
-        bool seen = false;
-        QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
-            auto* window = qobject_cast<QtAboutWindow*>(QApplication::activeModalWidget());
-            if (window == nullptr || !window->isVisible() || seen)
-                return;
-            seen = true;
-            look(*window);
-        });
-        timer.start(1);
+        const WhenUp<QtAboutWindow> shown(look);
         frmAbout(views.Create()).Show();
-        EXPECT_TRUE(seen);
     }
 
     static void PressOk(QtAboutWindow& window) { window.findChild<QPushButton*>("btnOK")->click(); }
@@ -63,10 +53,7 @@ TEST_F(QtAboutWindowTest, IsAPictureWithoutAFrame) {
 
 TEST_F(QtAboutWindowTest, StandsInTheMiddleOfTheScreen) {
     Show([](QtAboutWindow& window) {
-        const QPoint off =
-            window.geometry().center() - window.screen()->availableGeometry().center();
-        EXPECT_LE(std::abs(off.x()), 1);
-        EXPECT_LE(std::abs(off.y()), 1);
+        EXPECT_TRUE(centred(window));
         PressOk(window);
     });
 }

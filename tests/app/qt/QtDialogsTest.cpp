@@ -120,13 +120,7 @@ TEST_F(QtDialogs, ADialogBeginsAtTheFileThatWasUsedLast) {
 }
 
 struct QtFaultNoticeTest : testing::Test {
-    QList<QMessageBox*> Shown() const {
-        QList<QMessageBox*> shown;
-        for (auto* box : parent.findChildren<QMessageBox*>())
-            if (box->isVisible())
-                shown << box;
-        return shown;
-    }
+    QList<QMessageBox*> Shown() const { return visibleBoxes(parent); }
 
     QWidget parent;
     QtFaultNotice notice{parent};

@@ -58,30 +58,6 @@ TEST_F(QtMainWindowFiles, SaveAsAddsTheExtensionAndNamesTheDocument) {
     EXPECT_TRUE(Item("mnuUndo").isEnabled()) << "saving is no edit and takes none back";
 }
 
-TEST_F(QtMainWindowFiles, TheDialogsOfferBoardsOnly) {
-    answers.ChooseNothing();
-    Choose("mnuBewarenAls");
-    answers.ChooseNothing();
-    Choose("mnuOpenen");
-    ASSERT_EQ(answers.dialogs.size(), 2U);
-    const QStringList filter{"Veltrix bestanden *.vtx (*.vtx)"};
-    EXPECT_EQ(answers.dialogs[0].filters, filter);
-    EXPECT_EQ(answers.dialogs[1].filters, filter);
-    EXPECT_TRUE(answers.dialogs[0].saves);
-    EXPECT_FALSE(answers.dialogs[1].saves);
-    EXPECT_FALSE(Item("mnuBewaren").isEnabled());
-    EXPECT_EQ(window.windowTitle(), "Veltrix versie 2.0");
-}
-
-TEST_F(QtMainWindowFiles, TheNextDialogOpensWhereTheLastFileIs) {
-    create_directory(Path("klas 3"));
-    SaveOneWireAs("klas 3/bel.vtx");
-    answers.ChooseNothing();
-    Choose("mnuOpenen");
-    ASSERT_EQ(answers.dialogs.size(), 2U);
-    EXPECT_EQ(answers.dialogs[1].folder, Chosen("klas 3"));
-}
-
 TEST_F(QtMainWindowFiles, SaveAsAsksBeforeItOverwrites) {
     SaveOneWireAs("bel");
     const auto first = bytesOf(Path("bel.vtx"));
@@ -138,16 +114,6 @@ TEST_F(QtMainWindowFiles, ASaveThatFailsIsToldAndKeepsTheBoardUnsaved) {
 
     answers.Press("Annuleren"); // it still counts as changed
     EXPECT_FALSE(window.close());
-}
-
-TEST_F(QtMainWindowFiles, AFileThatIsNoBoardOpensAsABoardWithoutWires) {
-    DrawWire("Drukknop 1 Uit Geel", "LED 1 Ingang");
-    putBytes(Path("brief.vtx"), "Beste ouders,");
-    answers.Choose(Chosen("brief.vtx"));
-    Choose("mnuOpenen");
-    EXPECT_EQ(Wires(), 0);
-    EXPECT_EQ(window.windowTitle(), "Veltrix versie 2.0 - brief.vtx");
-    EXPECT_FALSE(Item("mnuUndo").isEnabled());
 }
 
 TEST_F(QtMainWindowFiles, ABoardThatIsDroppedIsOpened) {

@@ -171,13 +171,6 @@ TEST_F(QtMainWindowMenu, TheBoardRestsWhileThePointerIsOnTheMenuBarAndNoLonger) 
     EXPECT_EQ(interval(), Tick::Interval);
 }
 
-TEST_F(QtMainWindowMenu, TheSoundDialogIsMadeAnewEveryTime) {
-    Choose("mnuGeluidSensor");
-    Choose("mnuGeluidSensor");
-    ASSERT_EQ(waveInputs.dialogs.size(), 2U);
-    EXPECT_EQ(waveInputs.dialogs[1].shown, 1);
-}
-
 TEST_F(QtMainWindowMenu, AnErrorOfACommandIsToldInABoxAndTheProgramGoesOn) {
     waveInputs.whileShown = [](frmWaveInputs&, FakeWaveInputs&) { throw std::bad_alloc(); };
     answers.Press("OK");

@@ -1,8 +1,9 @@
+#include "tests/app/qt/Centred.h"
 #include "tests/app/qt/RealWindow.h"
 
-#include <QCursor>
-
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace veltrix::test {
 
@@ -42,10 +43,8 @@ TEST_F(QtMainWindowTest, CannotBeResized) {
 
 TEST_F(QtMainWindowTest, OpensInTheMiddleOfTheScreen) {
     Start();
-    const QPoint off = window.geometry().center() - window.screen()->availableGeometry().center();
     const QSize frame = window.frameGeometry().size() - window.size(); // unknown before it shows
-    EXPECT_LE(std::abs(off.x()), 1 + frame.width());
-    EXPECT_LE(std::abs(off.y()), 1 + frame.height());
+    EXPECT_TRUE(centred(window, 1 + std::max(frame.width(), frame.height())));
 }
 
 TEST_F(QtMainWindowTest, IsNotSeenBeforeTheSplashIsGone) {
@@ -100,13 +99,7 @@ TEST_F(QtMainWindowTest, ATickThatFailsIsToldOnceWhileTheBoardRunsOn) {
     auto& board = const_cast<Board&>(form.TheBoard());
     board.Knobs.VariableVoltage = 3000;
     RunTicks(1);
-    const auto notices = [this] {
-        QList<QMessageBox*> shown;
-        for (auto* box : window.findChildren<QMessageBox*>())
-            if (box->isVisible())
-                shown << box;
-        return shown;
-    };
+    const auto notices = [this] { return visibleBoxes(window); };
     ASSERT_EQ(notices().size(), 1);
     QMessageBox& told = *notices().first();
     EXPECT_FALSE(told.isModal());

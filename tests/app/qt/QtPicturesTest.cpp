@@ -1,9 +1,9 @@
 #include "app/qt/QtPictures.h"
+#include "tests/app/qt/Centred.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/TempFolder.h"
 
 #include <QImage>
-#include <QScreen>
 #include <QWidget>
 
 #include <gtest/gtest.h>
@@ -60,10 +60,7 @@ TEST_F(QtPictures, AWindowIsPutInTheMiddleOfItsScreen) {
     QWidget window;
     window.setFixedSize(101, 60);
     CentreOnScreen(window);
-    const QPoint off =
-        window.frameGeometry().center() - window.screen()->availableGeometry().center();
-    EXPECT_LE(std::abs(off.x()), 1);
-    EXPECT_LE(std::abs(off.y()), 1);
+    EXPECT_TRUE(centred(window));
 }
 
 } // namespace

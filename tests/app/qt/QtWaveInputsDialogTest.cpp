@@ -1,32 +1,28 @@
 #include "app/qt/QtWaveInputsDialog.h"
 
 #include "app/qt/VolumeMeter.h"
+#include "tests/app/qt/Centred.h"
 #include "tests/app/qt/PaintWatch.h"
 #include "tests/app/qt/WaitUntil.h"
+#include "tests/app/qt/WhenUp.h"
 #include "tests/support/FakeSound.h"
 #include "tests/support/MemoryDesktop.h"
 
-#include <QApplication>
 #include <QLabel>
 #include <QMainWindow>
 #include <QPushButton>
-#include <QScreen>
 #include <QTest>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <string>
-#include <vector>
 
-namespace veltrix {
+namespace veltrix::test {
 namespace {
 
-using test::waitUntil;
-
 /// The dialog over a computer with two inputs, as the program shows it.
-class WaveInputsDialog : public testing::Test {
+class QtWaveInputsDialogTest : public testing::Test {
 protected:
     /// Shows the dialog; while it is shown the test does this, and closes it.
     void show(const std::function<void(QtWaveInputsDialog&)>& whileShown) {
@@ -34,22 +30,8 @@ protected:
         QtWaveInputsDialogs dialogs(window);
         frmWaveInputs form(dialogs.Create(), programs);
         form.Constructor(wi);
-        bool done = false;
-        QTimer look;
-        QObject::connect(&look, &QTimer::timeout, &look, [&] {
-            auto* dialog = qobject_cast<QtWaveInputsDialog*>(QApplication::activeModalWidget());
-            if (dialog == nullptr || !dialog->isVisible() || done)
-                return;
-            done = true;
-            whileShown(*dialog);
-            if (dialog->isVisible()) {
-                ADD_FAILURE() << "the test leaves the dialog open";
-                dialog->reject();
-            }
-        });
-        look.start(1);
+        const WhenUp<QtWaveInputsDialog> shown(whileShown);
         form.Show();
-        EXPECT_TRUE(done);
     }
 
     static QString text(const QtWaveInputsDialog& dialog, const char* name) {
@@ -61,11 +43,11 @@ protected:
     }
 
     QMainWindow window;
-    test::FakeSoundInputs sound{{{"Mic"}, {"Webcam", false}}};
-    test::FakeProgramStart programs;
+    FakeSoundInputs sound{{{"Mic"}, {"Webcam", false}}};
+    FakeProgramStart programs;
 };
 
-TEST_F(WaveInputsDialog, SaysWhatThereIs) {
+TEST_F(QtWaveInputsDialogTest, SaysWhatThereIs) {
     show([](QtWaveInputsDialog& dialog) {
         EXPECT_EQ(dialog.windowTitle(), "Geluid Sensor");
         EXPECT_EQ(text(dialog, "labInputCount"), "Aantal inputs: 2");
@@ -81,7 +63,7 @@ TEST_F(WaveInputsDialog, SaysWhatThereIs) {
     });
 }
 
-TEST_F(WaveInputsDialog, HasAFrameThatCannotBeResized) {
+TEST_F(QtWaveInputsDialogTest, HasAFrameThatCannotBeResized) {
     show([](QtWaveInputsDialog& dialog) {
         EXPECT_EQ(dialog.minimumSize(), dialog.maximumSize());
         EXPECT_FALSE(dialog.windowFlags() & Qt::WindowMaximizeButtonHint);
@@ -91,18 +73,16 @@ TEST_F(WaveInputsDialog, HasAFrameThatCannotBeResized) {
     });
 }
 
-TEST_F(WaveInputsDialog, StandsInTheMiddleOfTheScreenWhereverTheProgramIs) {
+TEST_F(QtWaveInputsDialogTest, StandsInTheMiddleOfTheScreenWhereverTheProgramIs) {
     window.move(7, 5);
     window.show();
     show([](QtWaveInputsDialog& dialog) {
-        const QPoint off =
-            dialog.frameGeometry().center() - dialog.screen()->availableGeometry().center();
-        EXPECT_LE(off.manhattanLength(), 60) << "but for the frame, which comes after";
+        EXPECT_TRUE(centred(dialog, 30));
         press(dialog, "btnOK");
     });
 }
 
-TEST_F(WaveInputsDialog, MetersFollowTheLevels) {
+TEST_F(QtWaveInputsDialogTest, MetersFollowTheLevels) {
     show([this](QtWaveInputsDialog& dialog) {
         const auto level = [&](int i) {
             return dialog.findChild<VolumeMeter*>(QString("picVolume_%1").arg(i))->Level();
@@ -118,7 +98,7 @@ TEST_F(WaveInputsDialog, MetersFollowTheLevels) {
     });
 }
 
-TEST_F(WaveInputsDialog, AtRestNothingIsRepainted) {
+TEST_F(QtWaveInputsDialogTest, AtRestNothingIsRepainted) {
     show([this](QtWaveInputsDialog& dialog) {
         const auto shown = [&](int i) {
             return dialog.findChild<VolumeMeter*>(QString("picVolume_%1").arg(i))->Shown();
@@ -130,20 +110,20 @@ TEST_F(WaveInputsDialog, AtRestNothingIsRepainted) {
         sound.taps[0].level = 1000;
         EXPECT_TRUE(waitUntil([&] { return shown(1) == 200 && shown(6) == 200; }));
         EXPECT_TRUE(rounds(3)) << "the last step is painted";
-        test::PaintWatch watch(dialog);
+        PaintWatch watch(dialog);
         EXPECT_TRUE(rounds(10));
         EXPECT_EQ(watch.Times, 0);
         press(dialog, "btnOK");
     });
 }
 
-TEST_F(WaveInputsDialog, EnterAndEscapeClose) {
+TEST_F(QtWaveInputsDialogTest, EnterAndEscapeClose) {
     show([](QtWaveInputsDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
     show([](QtWaveInputsDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
     EXPECT_TRUE(programs.asked.empty());
 }
 
-TEST_F(WaveInputsDialog, TheOtherButtonAsksForTheSoundSettings) {
+TEST_F(QtWaveInputsDialogTest, TheOtherButtonAsksForTheSoundSettings) {
     show([this](QtWaveInputsDialog& dialog) {
         press(dialog, "Command1");
         EXPECT_EQ(programs.asked, modControlPanel::SoundSettings());
@@ -151,7 +131,7 @@ TEST_F(WaveInputsDialog, TheOtherButtonAsksForTheSoundSettings) {
     });
 }
 
-TEST_F(WaveInputsDialog, ANameTooLongIsShownWholeInItsTip) {
+TEST_F(QtWaveInputsDialogTest, ANameTooLongIsShownWholeInItsTip) {
     sound.computer.inputs[0].name = std::string(200, 'x');
     show([](QtWaveInputsDialog& dialog) {
         const auto* name = dialog.findChild<QLabel*>("Label3_1");
@@ -163,4 +143,4 @@ TEST_F(WaveInputsDialog, ANameTooLongIsShownWholeInItsTip) {
 }
 
 } // namespace
-} // namespace veltrix
+} // namespace veltrix::test

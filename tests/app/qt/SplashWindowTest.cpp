@@ -1,15 +1,13 @@
 #include "app/qt/SplashWindow.h"
+#include "tests/app/qt/Centred.h"
 #include "tests/app/qt/PaintWatch.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/TempFolder.h"
 
 #include <QImage>
 #include <QLabel>
-#include <QScreen>
 
 #include <gtest/gtest.h>
-
-#include <cmath>
 
 namespace veltrix::test {
 
@@ -29,10 +27,7 @@ TEST(SplashWindow, ShowsItsPictureInAWindowWithoutAFrame) {
 TEST(SplashWindow, StandsInTheMiddleOfTheScreen) {
     const TempFolder folder;
     SplashWindow splash(folder.Path());
-    const QPoint off =
-        splash.frameGeometry().center() - splash.screen()->availableGeometry().center();
-    EXPECT_LE(std::abs(off.x()), 1);
-    EXPECT_LE(std::abs(off.y()), 1);
+    EXPECT_TRUE(centred(splash));
 }
 
 TEST(SplashWindow, DoesWithoutItsPicture) {

@@ -14,7 +14,7 @@ namespace {
 constexpr int fullScale = 200;
 constexpr int enoughSteps = 100;
 
-class VolumeMeterAt : public testing::Test {
+class VolumeMeterTest : public testing::Test {
 protected:
     /// The meter after it has come to rest at a level.
     void rest(float width, bool visible = true) {
@@ -35,18 +35,18 @@ protected:
     VolumeMeter meter{fullScale};
 };
 
-TEST_F(VolumeMeterAt, IsEmptyAtFirst) {
+TEST_F(VolumeMeterTest, IsEmptyAtFirst) {
     EXPECT_EQ(barWidth(), 0);
 }
 
-TEST_F(VolumeMeterAt, ShowsItsLevelByItsWidth) {
+TEST_F(VolumeMeterTest, ShowsItsLevelByItsWidth) {
     for (const int width : {200, 150, 68, 20}) {
         rest(static_cast<float>(width));
         EXPECT_EQ(barWidth(), width);
     }
 }
 
-TEST_F(VolumeMeterAt, ShowsNoMoreThanFullScale) {
+TEST_F(VolumeMeterTest, ShowsNoMoreThanFullScale) {
     rest(1e9F);
     EXPECT_EQ(barWidth(), fullScale);
     meter.SetLevel(0, false);
@@ -54,13 +54,13 @@ TEST_F(VolumeMeterAt, ShowsNoMoreThanFullScale) {
     EXPECT_LT(barWidth(), fullScale) << "it does not take long to come down from far above";
 }
 
-TEST_F(VolumeMeterAt, ShowsNothingWhenItIsNotVisible) {
+TEST_F(VolumeMeterTest, ShowsNothingWhenItIsNotVisible) {
     rest(100);
     rest(100, false);
     EXPECT_EQ(barWidth(), 0);
 }
 
-TEST_F(VolumeMeterAt, MovesInSteps) {
+TEST_F(VolumeMeterTest, MovesInSteps) {
     meter.SetLevel(fullScale, true);
     int before = 0;
     for (int i = 0; i < 4; ++i) {
@@ -75,7 +75,7 @@ TEST_F(VolumeMeterAt, MovesInSteps) {
     EXPECT_GT(barWidth(), fullScale / 2) << "it falls slower than it rises";
 }
 
-TEST_F(VolumeMeterAt, RepaintsOnlyWhatChanges) {
+TEST_F(VolumeMeterTest, RepaintsOnlyWhatChanges) {
     meter.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&meter, 60000));
     rest(100);

@@ -1,18 +1,17 @@
 #include "app/qt/help/PageView.h"
 
+#include "tests/app/qt/ContextMenu.h"
 #include "tests/app/qt/PrintTo.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/TempFolder.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QContextMenuEvent>
 #include <QMenu>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextBlock>
-#include <QTimer>
 #include <QUrl>
 #include <QWheelEvent>
 
@@ -240,23 +239,14 @@ TEST_F(PageViewTest, ItsMenuIsDutchAndWorks) {
     page.Open(Write("een.htm", "<p>Een</p>"));
     QSignalSpy find(&page, &PageView::FindWanted);
     QStringList items;
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, &look, [&] {
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        if (menu == nullptr)
-            return;
-        for (QAction* action : menu->actions()) {
+    withContextMenu(*page.viewport(), [&](const QMenu& menu) {
+        for (QAction* action : menu.actions()) {
             if (!action->isSeparator())
                 items << action->text();
             if (action->text() == "Zoeken..." || action->text() == "Groter")
                 action->trigger();
         }
-        menu->close();
     });
-    look.start(1);
-    QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(50, 50),
-                            page.viewport()->mapToGlobal(QPoint(50, 50)));
-    QApplication::sendEvent(page.viewport(), &event);
     EXPECT_EQ(items, QStringList({"Terug", "Vooruit", "Kopiëren", "Alles selecteren", "Zoeken...",
                                   "Groter", "Kleiner", "Normale grootte"}));
     EXPECT_EQ(find.size(), 1);

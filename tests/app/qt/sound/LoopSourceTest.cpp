@@ -90,7 +90,7 @@ TEST(Loop, IsSilentWithoutASampleThatIsHeard) {
     EXPECT_FALSE(bytes.Silent());
 }
 
-class ReadLoopOf : public testing::Test {
+class ReadLoopTest : public testing::Test {
 protected:
     [[nodiscard]] Loop content(const std::string& bytes) const {
         std::ofstream(file, std::ios::binary) << bytes;
@@ -101,12 +101,12 @@ protected:
     std::filesystem::path file = folder.Path() / "sound.wav";
 };
 
-TEST_F(ReadLoopOf, NoFileIsEmpty) {
+TEST_F(ReadLoopTest, AFileThatIsNotThereIsEmpty) {
     EXPECT_TRUE(ReadLoop(file).samples.isEmpty());
     EXPECT_TRUE(ReadLoop(folder.Path()).samples.isEmpty());
 }
 
-TEST_F(ReadLoopOf, AWaveFileIsItsSamples) {
+TEST_F(ReadLoopTest, AWaveFileIsItsSamples) {
     const Loop bell = ReadLoop(VELTRIX_APPLICATION_FOLDER "/Ringin.wav");
     EXPECT_EQ(bell.format.sampleRate(), 44100);
     EXPECT_EQ(bell.format.channelCount(), 1);
@@ -117,7 +117,7 @@ TEST_F(ReadLoopOf, AWaveFileIsItsSamples) {
     EXPECT_TRUE(ReadLoop(VELTRIX_APPLICATION_FOLDER "/SILENCE.wav").Silent());
 }
 
-TEST_F(ReadLoopOf, DamagedFilesAreEmptyOrShort) {
+TEST_F(ReadLoopTest, DamagedFilesAreEmptyOrShort) {
     std::ifstream in(VELTRIX_APPLICATION_FOLDER "/Ringin.wav", std::ios::binary);
     std::string whole(2000, '\0');
     in.read(whole.data(), static_cast<std::streamsize>(whole.size()));
