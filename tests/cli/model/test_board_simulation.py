@@ -1,5 +1,6 @@
-"""Holds the ticks of the board in Python to cases worked out by hand: what compare.py measures the
-program with has to be right by itself."""
+"""Holds the ticks of the board in Python to cases worked out by hand: what compare.py
+measures the program with has to be right by itself.
+"""
 import struct
 import unittest
 
