@@ -1,16 +1,15 @@
 #include "board/Arithmetic.h"
 
+#include "tests/support/NumberRange.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 #include <stdexcept>
 
-namespace veltrix {
+namespace veltrix::test {
 namespace {
-
-constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
-constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
 
 TEST(Arithmetic, ResultsThatFitAreExactAtBothEndsOfTheRange) {
     EXPECT_EQ(CheckedAdd(most - 1, 1), most);
@@ -26,10 +25,11 @@ TEST(Arithmetic, ResultsThatDoNotFitAreErrors) {
     EXPECT_THROW((void)CheckedSubtract(0, least), std::overflow_error);
 }
 
+void check(double value, std::int32_t whole) {
+    EXPECT_EQ(RoundToLong(value), whole) << value;
+}
+
 TEST(RoundToLong, HalvesGoToTheEvenNumber) {
-    const auto check = [](double value, std::int32_t whole) {
-        EXPECT_EQ(RoundToLong(value), whole) << value;
-    };
     check(0.5, 0);
     check(1.5, 2);
     check(2.5, 2);
@@ -43,9 +43,6 @@ TEST(RoundToLong, HalvesGoToTheEvenNumber) {
 }
 
 TEST(RoundToLong, EverythingElseGoesToTheNearestNumber) {
-    const auto check = [](double value, std::int32_t whole) {
-        EXPECT_EQ(RoundToLong(value), whole) << value;
-    };
     check(0, 0);
     check(3, 3);
     check(-3, -3);
@@ -69,4 +66,4 @@ TEST(RoundToLong, ReachesBothEndsOfTheRangeAndNotBeyond) {
 }
 
 } // namespace
-} // namespace veltrix
+} // namespace veltrix::test

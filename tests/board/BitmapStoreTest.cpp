@@ -3,19 +3,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <fstream>
+#include <string>
+#include <vector>
 
-namespace veltrix {
+namespace veltrix::test {
 namespace {
-
-using test::Canvas;
-using test::plain;
-using test::writePicture;
-
-constexpr std::uint32_t red = 0xFFFF0000;
-constexpr std::uint32_t green = 0xFF00FF00;
-constexpr std::uint32_t blue = 0xFF0000FF;
-constexpr std::uint32_t nothing = Canvas::nothing;
 
 // Missing pictures
 
@@ -37,7 +31,7 @@ TEST(BitmapStore, AMissingPictureDrawsNothingAndIsLoggedOnce) {
 }
 
 TEST(BitmapStore, WithoutAFolderNoPictureIsMissed) {
-    test::KeptLog log;
+    KeptLog log;
     PictorATL surface;
     ASSERT_TRUE(surface.Start({}, 40, 30, 1, log));
     const std::int32_t bitmap = surface.LoadBitmap("\\map\\weg.bmp");
@@ -99,7 +93,7 @@ TEST(BitmapStore, TheNearestLargerPictureIsTaken) {
     EXPECT_EQ(chosenAt(4, {1, 2, 3}), blue);
 }
 
-TEST(BitmapStore, WhereItIsMissingAnotherOneServes) {
+TEST(BitmapStore, WhereTheNearestLargerPictureIsMissingAnotherOneServes) {
     EXPECT_EQ(chosenAt(1, {2}), green);
     EXPECT_EQ(chosenAt(1, {3}), blue);
     EXPECT_EQ(chosenAt(2, {1, 3}), blue);
@@ -297,4 +291,4 @@ TEST(BitmapStore, BitmapsOfOneFileDoNotShareThePixelsThatAreSet) {
 }
 
 } // namespace
-} // namespace veltrix
+} // namespace veltrix::test

@@ -6,6 +6,7 @@
 #include "tests/support/TempFolder.h"
 
 #include <cstdint>
+#include <stdexcept>
 #include <string>
 
 namespace veltrix::test {
@@ -14,10 +15,10 @@ namespace veltrix::test {
 struct Canvas {
     static constexpr std::int32_t width = 40;
     static constexpr std::int32_t height = 30;
-    static constexpr std::uint32_t nothing = 0xFF000000; ///< what the frame shows below everything
 
     explicit Canvas(double scale = 1) {
-        started = surface.Start(folder.Path(), width, height, scale, log);
+        if (!surface.Start(folder.Path(), width, height, scale, log))
+            throw std::runtime_error("the surface does not start");
     }
 
     /// Writes a picture and loads it.
@@ -49,8 +50,7 @@ struct Canvas {
     TempFolder folder;
     KeptLog log;
     PictorATL surface;
-    bool started = false;
-    int pictures = 0;
+    int pictures = 0; ///< so many have been made
 };
 
 } // namespace veltrix::test

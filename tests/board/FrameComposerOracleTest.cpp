@@ -8,10 +8,8 @@
 #include <algorithm>
 #include <random>
 
-namespace veltrix {
+namespace veltrix::test {
 namespace {
-
-using test::Canvas;
 
 /// What a sprite or group was told, without any memory of what was painted.
 struct Thing {
@@ -30,7 +28,7 @@ struct Thing {
 class Model {
 public:
     [[nodiscard]] Picture Compose() const {
-        Picture frame = test::plain(Canvas::width, Canvas::height, Canvas::nothing);
+        Picture frame = plain(Canvas::width, Canvas::height, nothing);
         compose(frame, 0, {});
         return frame;
     }
@@ -134,15 +132,15 @@ public:
         const std::uint32_t colours[] = {0xFFFF0000, 0xFF00FF00, 0xFF0000FF, 0xFFFFFF00,
                                          0x80FFFFFF};
         for (const std::uint32_t colour : colours) {
-            Picture picture = test::plain(8, 6, colour);
+            Picture picture = plain(8, 6, colour);
             for (std::uint32_t& pixel : picture.pixels)
                 pixel ^= static_cast<std::uint32_t>(random_() & 0x3F3F3F);
             load(picture);
         }
-        load(test::plain(20, 5, 0xFF808080)); // four frames
+        load(plain(20, 5, 0xFF808080)); // four frames
         firstMask_ = model_.pictures.size();
         for (const std::uint32_t grey : {0xFFFFFFFFU, 0xFF808080U, 0xFF000000U}) {
-            Picture mask = test::plain(7, 7, grey);
+            Picture mask = plain(7, 7, grey);
             mask.Row(2)[3] = 0xFF404040;
             load(mask);
         }
@@ -389,4 +387,4 @@ TEST_P(FrameComposerOracle, WhatIsRefreshedLooksLikeWhatIsPaintedAnew) {
 INSTANTIATE_TEST_SUITE_P(AtEveryScale, FrameComposerOracle, testing::Values(1.0, 1.25, 2.0));
 
 } // namespace
-} // namespace veltrix
+} // namespace veltrix::test

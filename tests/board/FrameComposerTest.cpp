@@ -1,30 +1,25 @@
 #include "tests/board/Canvas.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-namespace veltrix {
+#include <vector>
+
+namespace veltrix::test {
 namespace {
 
-using test::Canvas;
-using test::plain;
-
-constexpr std::uint32_t red = 0xFFFF0000;
-constexpr std::uint32_t green = 0xFF00FF00;
-constexpr std::uint32_t blue = 0xFF0000FF;
-constexpr std::uint32_t nothing = Canvas::nothing;
-
-/// A canvas on which everything so far has been painted, and whose frame is marked, so that a
-/// pixel which is painted again loses its mark.
+/// A canvas that tells what each refresh paints.
 struct Painted : Canvas {
     using Canvas::Canvas;
 
+    /// A new sprite of a bitmap that is there, as one that was deleted is made again.
     std::int32_t again(std::int32_t bitmap, std::int32_t x, std::int32_t y) {
         const std::int32_t sprite = surface.CreateSprite(bitmap);
         surface.PlaceSprite(sprite, x, y);
         return sprite;
     }
 
-    /// What a Refresh paints now.
+    /// What a refresh paints now.
     const std::vector<Rect>& painted() {
         surface.Refresh();
         return surface.Changed();
@@ -32,8 +27,9 @@ struct Painted : Canvas {
 };
 
 using Rects = std::vector<Rect>;
+using testing::UnorderedElementsAre;
 
-TEST(FrameComposer, TheFirstOneAndOneAtAnotherScalePaintAll) {
+TEST(FrameComposer, TheFirstRefreshAndOneAtAnotherScalePaintAll) {
     Painted canvas;
     EXPECT_EQ(canvas.painted(), Rects({{0, 0, 40, 30}}));
     canvas.surface.Restart(1.25);
@@ -55,7 +51,7 @@ TEST(FrameComposer, WhereNothingChangedNothingIsPainted) {
     EXPECT_EQ(canvas.painted(), Rects());
 }
 
-TEST(FrameComposer, WhatChangesBackBeforeItIsNotPainted) {
+TEST(FrameComposer, WhatChangesBackBeforeARefreshIsNotPainted) {
     Painted canvas;
     const std::int32_t sprite = canvas.sprite(red, {3, 4, 5, 6});
     canvas.surface.Refresh();
@@ -86,10 +82,7 @@ TEST(FrameComposer, ASpriteThatMovesIsPaintedAtBothPlaces) {
     const std::int32_t sprite = canvas.sprite(red, {3, 4, 5, 6});
     canvas.surface.Refresh();
     canvas.surface.PlaceSprite(sprite, 20, 10);
-    Rects rects = canvas.painted();
-    ASSERT_EQ(rects.size(), 2U);
-    EXPECT_NE(std::find(rects.begin(), rects.end(), Rect{3, 4, 5, 6}), rects.end());
-    EXPECT_NE(std::find(rects.begin(), rects.end(), Rect{20, 10, 5, 6}), rects.end());
+    EXPECT_THAT(canvas.painted(), UnorderedElementsAre(Rect{3, 4, 5, 6}, Rect{20, 10, 5, 6}));
     EXPECT_EQ(canvas.pixel(3, 4), nothing);
     EXPECT_EQ(canvas.pixel(24, 15), red);
 }
@@ -107,9 +100,7 @@ TEST(FrameComposer, OnlyThePartOnTheBoardIsPainted) {
     const std::int32_t sprite = canvas.sprite(red, {3, 4, 5, 6});
     canvas.surface.Refresh();
     canvas.surface.PlaceSprite(sprite, 38, -2);
-    const Rects rects = canvas.painted();
-    ASSERT_EQ(rects.size(), 2U);
-    EXPECT_NE(std::find(rects.begin(), rects.end(), Rect{76, 0, 4, 8}), rects.end());
+    EXPECT_THAT(canvas.painted(), UnorderedElementsAre(Rect{6, 8, 10, 12}, Rect{76, 0, 4, 8}));
 }
 
 TEST(FrameComposer, ASpriteMadeAgainAlikeIsNotPainted) {
@@ -259,7 +250,7 @@ TEST(FrameComposer, WhatWaitedToBePaintedFitsTheFrameOfASmallerScale) {
     EXPECT_EQ(canvas.pixel(37, 27), green);
 }
 
-TEST(FrameComposer, TheFrameIsTouchedOnlyByIt) {
+TEST(FrameComposer, OnlyARefreshTouchesTheFrame) {
     Painted canvas;
     const std::int32_t sprite = canvas.sprite(red, {0, 0, 5, 5});
     canvas.surface.Refresh();
@@ -272,4 +263,4 @@ TEST(FrameComposer, TheFrameIsTouchedOnlyByIt) {
 }
 
 } // namespace
-} // namespace veltrix
+} // namespace veltrix::test

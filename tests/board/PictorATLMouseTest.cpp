@@ -2,12 +2,8 @@
 
 #include <gtest/gtest.h>
 
-namespace veltrix {
+namespace veltrix::test {
 namespace {
-
-using test::Canvas;
-
-constexpr std::uint32_t red = 0xFFFF0000;
 
 /// Keeps what it hears; `heard` says it in the order down/up/move, sprite, button, x, y.
 struct Listener : SurfaceEvents {
@@ -159,4 +155,4 @@ TEST_F(PictorATLMouse, ThePlaceOfAHitIsTheBoardsAtEveryScale) {
 }
 
 } // namespace
-} // namespace veltrix
+} // namespace veltrix::test

@@ -8,20 +8,12 @@
 #include <fstream>
 #include <stdexcept>
 
-namespace veltrix {
+namespace veltrix::test {
 namespace {
-
-using test::plain;
-using test::TempFolder;
-
-Picture row(std::vector<std::uint32_t> pixels) {
-    const auto width = static_cast<std::int32_t>(pixels.size());
-    return {width, 1, std::move(pixels)};
-}
 
 TEST(Picture, APngIsReadBackToTheLastBit) {
     const TempFolder folder;
-    Picture picture{3, 2, {0xFF123456, 0x00ABCDEF, 0x80FF00FF, 0xFFFFFFFF, 0xFF000000, 0x01020304}};
+    Picture picture{3, 2, {0xFF123456, 0x00ABCDEF, 0x80FF00FF, white, 0xFF000000, 0x01020304}};
     WritePng(picture, folder.Path() / "picture.bmp");
     const Picture read = ReadPicture(folder.Path() / "picture.bmp");
     EXPECT_EQ(read.width, 3);
@@ -69,24 +61,24 @@ TEST(Picture, WritingWhereThereIsNoFolderIsAnError) {
 }
 
 TEST(ResampleFrames, TheSameSizeIsTheSamePicture) {
-    const Picture strip = row({1, 2, 3, 4});
+    const Picture strip = rowOf({1, 2, 3, 4});
     EXPECT_EQ(ResampleFrames(strip, 2, 2, 1).pixels, strip.pixels);
 }
 
 TEST(ResampleFrames, HalfTheSizeAveragesEachChannel) {
     const Picture small =
-        ResampleFrames(row({0xFF000000, 0xFF0000FF, 0xFF800000, 0xFF000080}), 1, 2, 1);
+        ResampleFrames(rowOf({0xFF000000, 0xFF0000FF, 0xFF800000, 0xFF000080}), 1, 2, 1);
     EXPECT_EQ(small.pixels, (std::vector<std::uint32_t>{0xFF000080, 0xFF400040}));
 }
 
 TEST(ResampleFrames, APixelThatIsCutInTwoCountsByItsParts) {
     // Three pixels become two: each is the whole of one and half of the middle one.
-    const Picture two = ResampleFrames(row({0xFF000000, 0xFF000090, 0xFF000030}), 1, 2, 1);
+    const Picture two = ResampleFrames(rowOf({0xFF000000, 0xFF000090, 0xFF000030}), 1, 2, 1);
     EXPECT_EQ(two.pixels, (std::vector<std::uint32_t>{0xFF000030, 0xFF000050}));
 }
 
 TEST(ResampleFrames, AnEnlargedPictureRepeatsItsPixels) {
-    const Picture large = ResampleFrames(row({0xFF000010, 0xFF000020}), 1, 4, 2);
+    const Picture large = ResampleFrames(rowOf({0xFF000010, 0xFF000020}), 1, 4, 2);
     EXPECT_EQ(large.width, 4);
     EXPECT_EQ(large.height, 2);
     EXPECT_EQ(large.pixels,
@@ -108,4 +100,4 @@ TEST(ResampleFrames, NeighboursInAStripDoNotBleedIntoOneAnother) {
 }
 
 } // namespace
-} // namespace veltrix
+} // namespace veltrix::test

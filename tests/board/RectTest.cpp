@@ -1,10 +1,10 @@
 #include "board/Rect.h"
 
+#include "tests/support/NumberRange.h"
+
 #include <gtest/gtest.h>
 
-#include <limits>
-
-namespace veltrix {
+namespace veltrix::test {
 namespace {
 
 constexpr Rect rect{10, 20, 30, 40};
@@ -35,8 +35,6 @@ TEST(Rect, TheIntersectionIsWhatBothCover) {
 }
 
 TEST(Rect, AnIntersectionAtTheEndOfTheRangeDoesNotOverflow) {
-    constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
-    constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
     EXPECT_EQ((Rect{most - 1, 0, most, 1}).Intersected({0, 0, most, 1}), (Rect{most - 1, 0, 1, 1}));
     EXPECT_TRUE((Rect{least, 0, 10, 1}).Intersected({0, 0, most, 1}).Empty());
 }
@@ -48,4 +46,4 @@ TEST(Rect, TheUnionCoversBothAndNothingBeyond) {
 }
 
 } // namespace
-} // namespace veltrix
+} // namespace veltrix::test

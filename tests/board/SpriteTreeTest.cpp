@@ -3,6 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <vector>
+
 namespace veltrix {
 namespace {
 
@@ -21,15 +24,30 @@ TEST(SpriteTree, ANodeIsFoundByItsNumberUntilItIsErased) {
     EXPECT_EQ(tree.Count(), 0);
 }
 
-TEST(SpriteTree, AnIndexIsUsedAgainUnderAnotherNumber) {
+TEST(SpriteTree, AnIndexIsUsedAgainUnderFiveHundredElevenOtherNumbers) {
     SpriteTree tree;
     const std::int32_t index = tree.Make(Kind::Sprite);
     const std::int32_t number = tree.NumberOf(index);
-    tree.Erase(index);
-    ASSERT_EQ(tree.Make(Kind::Sprite), index);
-    EXPECT_NE(tree.NumberOf(index), number);
-    EXPECT_EQ(tree.Find(number), SpriteTree::None);
+    for (int uses = 1; uses < 512; ++uses) {
+        tree.Erase(index);
+        ASSERT_EQ(tree.Make(Kind::Sprite), index);
+        ASSERT_NE(tree.NumberOf(index), number);
+        ASSERT_EQ(tree.Find(number), SpriteTree::None);
+    }
     EXPECT_EQ(tree.Size(), 1U);
+}
+
+TEST(SpriteTree, NumbersAreNeverZeroAndNeverSharedByTwo) {
+    SpriteTree tree;
+    std::vector<std::int32_t> numbers;
+    for (std::size_t i = 0; i < 300; ++i) {
+        numbers.push_back(tree.NumberOf(tree.Make(Kind::Sprite)));
+        if (i % 5 == 0)
+            tree.Erase(tree.Find(numbers[i / 2]));
+    }
+    std::sort(numbers.begin(), numbers.end());
+    EXPECT_GT(numbers.front(), 0);
+    EXPECT_EQ(std::adjacent_find(numbers.begin(), numbers.end()), numbers.end());
 }
 
 TEST(SpriteTree, NumbersThatNoNodeEverHadAreNotFound) {
@@ -76,15 +94,53 @@ TEST(SpriteTree, TheOrderGoesByLevelThenByAgeWithChildrenAboveTheirParent) {
     EXPECT_THAT(tree.Order(), ElementsAre(high, old, child));
 }
 
+TEST(SpriteTree, ChildrenLieAboveTheirParentWhateverTheirLevel) {
+    SpriteTree tree;
+    const std::int32_t parent = tree.Make(Kind::Sprite);
+    const std::int32_t child = tree.Make(Kind::Sprite);
+    tree.SetParent(child, parent);
+    tree.SetLevel(child, -10);
+    EXPECT_THAT(tree.Order(), ElementsAre(parent, child));
+}
+
+TEST(SpriteTree, LevelsCountAmongTheChildrenOfOneParent) {
+    SpriteTree tree;
+    const std::int32_t low = tree.Make(Kind::Group);
+    const std::int32_t high = tree.Make(Kind::Group);
+    const std::int32_t quiet = tree.Make(Kind::Sprite);
+    const std::int32_t loud = tree.Make(Kind::Sprite);
+    tree.SetLevel(high, 1);
+    tree.SetParent(quiet, high);
+    tree.SetParent(loud, low);
+    tree.SetLevel(loud, 100);
+    EXPECT_THAT(tree.Order(), ElementsAre(low, loud, high, quiet));
+    tree.SetLevel(low, 2);
+    EXPECT_THAT(tree.Order(), ElementsAre(high, quiet, low, loud));
+}
+
+TEST(SpriteTree, AttachingDoesNotMakeANodeYounger) {
+    SpriteTree tree;
+    const std::int32_t group = tree.Make(Kind::Group);
+    const std::int32_t old = tree.Make(Kind::Sprite);
+    const std::int32_t young = tree.Make(Kind::Sprite);
+    tree.SetParent(young, group);
+    tree.SetParent(old, group);
+    EXPECT_THAT(tree.Order(), ElementsAre(group, old, young));
+}
+
 TEST(SpriteTree, AnAncestorIsNotAttachedToItsDescendant) {
     SpriteTree tree;
     const std::int32_t group = tree.Make(Kind::Group);
     const std::int32_t child = tree.Make(Kind::Group);
+    const std::int32_t grandchild = tree.Make(Kind::Group);
     tree.SetParent(child, group);
-    tree.SetParent(group, child);
-    tree.SetParent(group, group);
+    tree.SetParent(grandchild, child);
+    for (const std::int32_t ancestor : {group, child, grandchild})
+        tree.SetParent(ancestor, grandchild);
     EXPECT_EQ(tree[group].parent, SpriteTree::None);
     EXPECT_EQ(tree[child].parent, group);
+    EXPECT_EQ(tree[grandchild].parent, child);
+    EXPECT_THAT(tree.Order(), ElementsAre(group, child, grandchild));
 }
 
 TEST(SpriteTree, ANodeIsShownWhileEverythingAboveItIs) {

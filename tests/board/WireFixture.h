@@ -8,7 +8,8 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
+#include <cstdint>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -40,8 +41,8 @@ struct WireFixture : testing::Test {
                                        static_cast<std::uint32_t>(n) << 8 | 0xFFU;
             writePicture(folder.Path(), "\\images1\\Line" + std::to_string(colour) + ".bmp", strip);
         }
-        writePicture(folder.Path(), "\\images1\\LineMask.bmp", plain(1024, 1, 0xFFFFFFFF));
-        started = surface.Start(folder.Path(), 415, 376, 1, log);
+        writePicture(folder.Path(), "\\images1\\LineMask.bmp", plain(1024, 1, white));
+        EXPECT_TRUE(surface.Start(folder.Path(), 415, 376, 1, log));
         bordLines.Constructor(surface);
     }
 
@@ -61,7 +62,6 @@ struct WireFixture : testing::Test {
     TempFolder folder;
     KeptLog log;
     PictorATL surface;
-    bool started = false;
     clsBordLines bordLines;
 };
 

@@ -1,16 +1,16 @@
 #include "tests/board/WireFixture.h"
+#include "tests/support/NumberRange.h"
 
 #include <cmath>
-#include <limits>
+#include <stdexcept>
 
-namespace veltrix {
+namespace veltrix::test {
 namespace {
 
-using test::Bead;
 using Beads = std::vector<Bead>;
 
-struct clsBordLinesTest : test::WireFixture {
-    /// The beads of one segment.
+struct clsBordLinesTest : WireFixture {
+    /// The beads that are seen of one segment; `count` tells how many there are.
     Beads drawn(std::int32_t X1, std::int32_t Y1, std::int32_t X2, std::int32_t Y2,
                 std::int32_t ColorNr = 1) {
         const std::int32_t group = surface.NewGroup();
@@ -74,7 +74,7 @@ TEST_F(clsBordLinesTest, BetweenTwoDirectionsTheRoughPiOfTheStripsDecides) {
 }
 
 TEST_F(clsBordLinesTest, AColourNumberWithoutAPictureIsAnErrorOnceThereIsABead) {
-    for (const std::int32_t colour : {10, 11, -1, std::numeric_limits<std::int32_t>::min()}) {
+    for (const std::int32_t colour : {10, 11, -1, least}) {
         EXPECT_THROW(drawn(100, 100, 110, 100, colour), std::out_of_range) << colour;
         EXPECT_NO_THROW(drawn(100, 100, 109, 100, colour)) << colour;
     }
@@ -86,7 +86,6 @@ TEST_F(clsBordLinesTest, ColourNumberZeroHasBeadsThatAreNotSeen) {
 }
 
 TEST_F(clsBordLinesTest, EndsTooFarApartToSubtractAreAnError) {
-    constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
     EXPECT_THROW(drawn(least, 0, 1, 0), std::overflow_error);
     EXPECT_THROW(drawn(0, 1, 0, least), std::overflow_error);
 }
@@ -98,4 +97,4 @@ TEST_F(clsBordLinesTest, AWireFromItIsReadyToUse) {
 }
 
 } // namespace
-} // namespace veltrix
+} // namespace veltrix::test

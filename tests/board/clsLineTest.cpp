@@ -1,12 +1,11 @@
 #include "tests/board/WireFixture.h"
 
-namespace veltrix {
+namespace veltrix::test {
 namespace {
 
-using test::Bead;
 using Beads = std::vector<Bead>;
 
-struct clsLineTest : test::WireFixture {
+struct clsLineTest : WireFixture {
     [[nodiscard]] std::int32_t beadCount() const { return surface.CountInGroup(line->GroupLID()); }
 
     std::shared_ptr<clsLine> line = bordLines.CreateLine();
@@ -129,10 +128,10 @@ TEST_F(clsLineTest, WiresLieOnLevelEight) {
     surface.PlaceSprite(sprite, 0, 84);
     surface.SetLevel(sprite, 7);
     surface.Refresh();
-    EXPECT_NE(surface.Frame().Row(84)[89], 0xFFFFFFFF);
+    EXPECT_NE(surface.Frame().Row(84)[89], white);
     surface.SetLevel(sprite, 8);
     surface.Refresh();
-    EXPECT_EQ(surface.Frame().Row(84)[89], 0xFFFFFFFF);
+    EXPECT_EQ(surface.Frame().Row(84)[89], white);
 }
 
 TEST_F(clsLineTest, AWireLeavesTheSurfaceWithItsLastHolder) {
@@ -214,4 +213,4 @@ TEST_F(clsLineTest, NamesAndTheMarkAreJustKept) {
 }
 
 } // namespace
-} // namespace veltrix
+} // namespace veltrix::test

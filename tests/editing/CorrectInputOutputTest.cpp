@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 namespace veltrix::test {
-
 namespace {
 
 TEST(CorrectInputOutput, SaysNothingOfABoardWithoutAConflict) {
@@ -36,5 +35,4 @@ TEST(CorrectInputOutput, NamesTheOutputsOfEveryNetInItsOwnLine) {
 }
 
 } // namespace
-
 } // namespace veltrix::test

@@ -1,26 +1,22 @@
 #include "document/BoardDocument.h"
 #include "tests/support/MemoryDesktop.h"
 #include "tests/support/Pictures.h"
-#include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdlib>
 #include <random>
 #include <string>
 #include <vector>
 
 namespace veltrix::test {
-
 namespace {
 
 /// A user without a plan. Every run is named by its seed; VELTRIX_MONKEY_SEED replays one.
 class Monkey {
 public:
-    Monkey(const std::filesystem::path& pictures, std::uint32_t seed)
-        : desktop_(pictures), random_(seed) {
-        desktop_.Start();
-    }
+    explicit Monkey(std::uint32_t seed) : random_(seed) { desktop_.Start(); }
 
     void Act() {
         switch (pick(24)) {
@@ -81,13 +77,13 @@ public:
         }
     }
 
-    /// From the first snapshot to the last and back: the same documents both ways. The board itself
-    /// may be ahead of its snapshot, since not every change of a level records one.
+    /// From the first undo state to the last and back: the same documents both ways. The board
+    /// itself may be ahead of its undo state, since not every change of a level records one.
     void ExpectTheSameDocumentsBackAndForth() {
         const UndoList& undo = desktop_.form.TheUndoList();
         while (undo.Position() > 1)
             desktop_.form.mnuUndo_Click();
-        std::vector<std::string> forth;
+        std::vector<clsKorvelRWRam::Block> forth;
         while (undo.Position() < undo.Count()) {
             desktop_.form.mnuRedo_Click();
             forth.push_back(document());
@@ -95,7 +91,7 @@ public:
         while (undo.Position() > 2) {
             desktop_.form.mnuUndo_Click();
             const auto index = static_cast<std::size_t>(undo.Position()) - 2;
-            ASSERT_TRUE(document() == forth[index]) << "snapshot " << undo.Position();
+            ASSERT_TRUE(document() == forth[index]) << "undo state " << undo.Position();
         }
     }
 
@@ -123,32 +119,19 @@ private:
             desktop_.edge.Mouse([&](FORM1& form) { form.Pictor1_MouseUp(button, to.x, to.y); });
     }
 
-    std::string document() {
+    clsKorvelRWRam::Block document() {
         clsKorvelRWRam stream;
         WriteTo(desktop_.form.TheBoard(), stream);
-        stream.ResetToStart();
-        std::string bytes;
-        for (int i = 0; i < 16000; ++i) {
-            const std::int32_t four = stream.readLong();
-            for (const int shift : {0, 8, 16, 24})
-                bytes += static_cast<char>(four >> shift & 0xFF);
-        }
-        return bytes;
+        return stream.Data();
     }
 
-    MemoryDesktop desktop_;
+    MemoryDesktop desktop_{boardPictures()};
     std::mt19937 random_;
 };
 
 void letLoose(std::uint32_t seed, int actions) {
     SCOPED_TRACE("replay with VELTRIX_MONKEY_SEED=" + std::to_string(seed));
-    static const TempFolder folder;
-    static const bool written = [] {
-        writeBoardPictures(folder.Path());
-        return true;
-    }();
-    ASSERT_TRUE(written);
-    Monkey monkey(folder.Path(), seed);
+    Monkey monkey(seed);
     for (int i = 0; i < actions; ++i) {
         monkey.Act();
         ASSERT_NO_FATAL_FAILURE(monkey.ExpectWhole()) << "after action " << i;
@@ -166,5 +149,4 @@ TEST(Monkey, WhateverIsClickedTheBoardStaysWholeAndUndoReplaysIt) {
 }
 
 } // namespace
-
 } // namespace veltrix::test

@@ -1,16 +1,11 @@
-#include "tests/support/MemoryDesktop.h"
-
-#include <gtest/gtest.h>
+#include "tests/editing/EditingFixture.h"
 
 #include <stdexcept>
 
 namespace veltrix::test {
-
 namespace {
 
-struct UndoListTest : testing::Test {
-    UndoListTest() { desktop.Start(); }
-
+struct UndoListTest : EditingFixture {
     void expectState(std::int32_t position, std::int32_t count) {
         EXPECT_EQ(undo().Position(), position);
         EXPECT_EQ(undo().Count(), count);
@@ -18,14 +13,14 @@ struct UndoListTest : testing::Test {
         EXPECT_EQ(desktop.menu.redoEnabled, position < count);
     }
 
-    [[nodiscard]] const UndoList& undo() const { return desktop.form.TheUndoList(); }
-
-    [[nodiscard]] const Board& board() const { return desktop.form.TheBoard(); }
-
-    MemoryDesktop desktop;
+    void expectOnlyMessage(const std::string& text) {
+        ASSERT_EQ(desktop.messages.shown.size(), 1U);
+        EXPECT_EQ(desktop.messages.shown[0].text, text);
+        EXPECT_EQ(desktop.messages.shown[0].buttons, Buttons::Ok);
+    }
 };
 
-TEST_F(UndoListTest, AFreshBoardHasOneSnapshotAndNothingToUndo) {
+TEST_F(UndoListTest, AFreshBoardHasOneUndoStateAndNothingToUndo) {
     expectState(1, 1);
     desktop.form.mnuNieuw_Click();
     expectState(1, 1);
@@ -61,18 +56,15 @@ TEST_F(UndoListTest, UndoAndRedoGiveBackButtonsSensorsKnobsAndCounter) {
     expectState(4, 4);
 }
 
-TEST_F(UndoListTest, PastTheFirstSnapshotThereIsAMessageAndNothingIsLoaded) {
+TEST_F(UndoListTest, PastTheFirstUndoStateThereIsAMessageAndNothingIsLoaded) {
     desktop.form.mnuUndo_Click();
-    ASSERT_EQ(desktop.messages.shown.size(), 1U);
-    EXPECT_EQ(desktop.messages.shown[0].text, "No more Undo's possible");
-    EXPECT_EQ(desktop.messages.shown[0].buttons, Buttons::Ok);
+    expectOnlyMessage("No more Undo's possible");
     expectState(1, 1);
 }
 
-TEST_F(UndoListTest, PastTheLastSnapshotThereIsAMessageAndNothingIsLoaded) {
+TEST_F(UndoListTest, PastTheLastUndoStateThereIsAMessageAndNothingIsLoaded) {
     desktop.form.mnuRedo_Click();
-    ASSERT_EQ(desktop.messages.shown.size(), 1U);
-    EXPECT_EQ(desktop.messages.shown[0].text, "No more Redo's possible");
+    expectOnlyMessage("No more Redo's possible");
     expectState(1, 1);
 }
 
@@ -85,7 +77,7 @@ TEST_F(UndoListTest, ARefusedWireLeavesTheListAsItWas) {
     EXPECT_EQ(desktop.Wires(), 0);
 }
 
-TEST_F(UndoListTest, BackAtTheFirstSnapshotClosingAsksNothing) {
+TEST_F(UndoListTest, BackAtTheFirstUndoStateClosingAsksNothing) {
     desktop.Click("Drukknop 1");
     desktop.form.mnuUndo_Click();
     std::int32_t Cancel = 0;
@@ -94,10 +86,10 @@ TEST_F(UndoListTest, BackAtTheFirstSnapshotClosingAsksNothing) {
     EXPECT_EQ(desktop.program.ended, 0);
 }
 
-TEST_F(UndoListTest, ABoardTooLargeForASnapshotEndsTheEditInAnErrorAndKeepsTheBoard) {
+TEST_F(UndoListTest, ABoardTooLargeForAnUndoStateEndsTheEditInAnErrorAndKeepsTheBoard) {
     desktop.Click("Drukknop 1");
     desktop.form.mnuUndo_Click();
-    // No pupil draws this many; a document may hold them. 64001 bytes is what a snapshot holds.
+    // No pupil draws this many; a document may hold them. 64001 bytes is what an undo state holds.
     Board& crowded = const_cast<Board&>(board());
     for (int i = 0; i < 1800; ++i)
         crowded.AddLine("Pulsenteller Tel pulsen (In)", "LED 1 Ingang");
@@ -109,5 +101,4 @@ TEST_F(UndoListTest, ABoardTooLargeForASnapshotEndsTheEditInAnErrorAndKeepsTheBo
 }
 
 } // namespace
-
 } // namespace veltrix::test

@@ -9,15 +9,12 @@
 #include <string>
 #include <vector>
 
-namespace veltrix {
+namespace veltrix::test {
 namespace {
 
-using test::FakeSoundInputs;
-using test::FakeTap;
 using testing::ElementsAre;
 
-class UCWaveInWith : public testing::Test {
-protected:
+struct UCWaveInTest : testing::Test {
     /// The sensor of a computer with so many inputs, "in 1", "in 2", ...
     UCWaveIn& withInputs(int count) {
         for (int i = 1; i <= count; ++i)
@@ -47,14 +44,14 @@ protected:
     std::optional<UCWaveIn> wi;
 };
 
-TEST_F(UCWaveInWith, NoInputsIsSilent) {
+TEST_F(UCWaveInTest, WithoutInputsItIsSilent) {
     withInputs(0);
     EXPECT_EQ(wi->GetUsedCount(), 0);
     EXPECT_EQ(volumeAt(1000), 0);
     EXPECT_EQ(sound.taps[0].reads, 0);
 }
 
-TEST_F(UCWaveInWith, EveryInputIsBoundToItsNumber) {
+TEST_F(UCWaveInTest, EveryInputIsBoundToItsNumber) {
     withInputs(3);
     EXPECT_EQ(wi->GetUsedCount(), 3);
     EXPECT_EQ(sound.taps[0].index, 1);
@@ -63,18 +60,18 @@ TEST_F(UCWaveInWith, EveryInputIsBoundToItsNumber) {
     EXPECT_EQ(sound.taps[3].index, 0);
 }
 
-TEST_F(UCWaveInWith, OfManyInputsTheFirstFiveAreUsed) {
+TEST_F(UCWaveInTest, OfManyInputsTheFirstFiveAreUsed) {
     EXPECT_EQ(withInputs(7).GetUsedCount(), 5);
     wi->Timer1_Timer();
     EXPECT_THAT(starts(), ElementsAre(1, 1, 1, 1, 1));
 }
 
-TEST_F(UCWaveInWith, TheUsersSettingIsAskedByItsName) {
+TEST_F(UCWaveInTest, TheUsersSettingIsAskedByItsName) {
     withInputs(1);
     EXPECT_THAT(sound.settings.asked, ElementsAre("VELTRIX2/Sound/Value"));
 }
 
-TEST_F(UCWaveInWith, SwitchedOffNothingIsCountedStartedOrHeard) {
+TEST_F(UCWaveInTest, SwitchedOffNothingIsCountedStartedOrHeard) {
     sound.settings.value = "Off";
     withInputs(2);
     wi->Timer1_Timer();
@@ -83,7 +80,7 @@ TEST_F(UCWaveInWith, SwitchedOffNothingIsCountedStartedOrHeard) {
     EXPECT_EQ(volumeAt(1000), 0);
 }
 
-TEST_F(UCWaveInWith, SwitchedOffItStaysOffWhenTheComputerAnswersLate) {
+TEST_F(UCWaveInTest, SwitchedOffItStaysOffWhenTheComputerAnswersLate) {
     sound.settings.value = "Off";
     sound.computer.answered = false;
     withInputs(2);
@@ -92,7 +89,7 @@ TEST_F(UCWaveInWith, SwitchedOffItStaysOffWhenTheComputerAnswersLate) {
     EXPECT_EQ(wi->GetUsedCount(), 0);
 }
 
-TEST_F(UCWaveInWith, OnlyTheExactWordSwitchesOff) {
+TEST_F(UCWaveInTest, OnlyTheExactWordSwitchesOff) {
     for (const char* value : {"off", "OFF", "Off ", "0", "False"}) {
         sound.Become({{"mic"}});
         sound.settings.value = value;
@@ -100,7 +97,7 @@ TEST_F(UCWaveInWith, OnlyTheExactWordSwitchesOff) {
     }
 }
 
-TEST_F(UCWaveInWith, CapturesStartOnTheFirstTimerTickAndOnlyThen) {
+TEST_F(UCWaveInTest, CapturesStartOnTheFirstTimerTickAndOnlyThen) {
     withInputs(2);
     EXPECT_THAT(starts(), ElementsAre(0, 0, 0, 0, 0));
     wi->Timer1_Timer();
@@ -109,7 +106,7 @@ TEST_F(UCWaveInWith, CapturesStartOnTheFirstTimerTickAndOnlyThen) {
     EXPECT_THAT(starts(), ElementsAre(1, 1, 0, 0, 0));
 }
 
-TEST_F(UCWaveInWith, AnInputThatCannotBeUsedIsNotStarted) {
+TEST_F(UCWaveInTest, AnInputThatCannotBeUsedIsNotStarted) {
     sound.Become({{"a"}, {"b", false}, {"c"}});
     create().Timer1_Timer();
     EXPECT_THAT(starts(), ElementsAre(1, 0, 1, 0, 0));
@@ -117,7 +114,7 @@ TEST_F(UCWaveInWith, AnInputThatCannotBeUsedIsNotStarted) {
     EXPECT_FALSE(wi->GetWaveInValid(2));
 }
 
-TEST_F(UCWaveInWith, InputsAreTakenWhenTheComputerAnswersLate) {
+TEST_F(UCWaveInTest, InputsAreTakenWhenTheComputerAnswersLate) {
     sound.computer.answered = false;
     withInputs(2);
     wi->Timer1_Timer();
@@ -130,7 +127,7 @@ TEST_F(UCWaveInWith, InputsAreTakenWhenTheComputerAnswersLate) {
     EXPECT_EQ(volumeAt(10), 50);
 }
 
-TEST_F(UCWaveInWith, InputsThatComeAfterTheAnswerAreNotTaken) {
+TEST_F(UCWaveInTest, InputsThatComeAfterTheAnswerAreNotTaken) {
     withInputs(1);
     sound.computer.inputs.push_back({"plugged in later"});
     wi->Timer1_Timer();
@@ -138,14 +135,14 @@ TEST_F(UCWaveInWith, InputsThatComeAfterTheAnswerAreNotTaken) {
     EXPECT_THAT(starts(), ElementsAre(1, 0, 0, 0, 0));
 }
 
-TEST_F(UCWaveInWith, NamesAreAskedOfTheFirstCapture) {
+TEST_F(UCWaveInTest, NamesAreAskedOfTheFirstCapture) {
     FakeSoundInputs other({{"wrong"}, {"wrong"}});
     withInputs(2);
     sound.taps[1].computer = &other.computer;
     EXPECT_EQ(wi->GetWaveName(2), "in 2");
 }
 
-TEST_F(UCWaveInWith, TheLoudestSoFarIsFullScale) {
+TEST_F(UCWaveInTest, TheLoudestSoFarIsFullScale) {
     withInputs(1);
     EXPECT_EQ(volumeAt(1), 50) << "the peak begins at 1";
     EXPECT_EQ(volumeAt(1000), 50);
@@ -154,7 +151,7 @@ TEST_F(UCWaveInWith, TheLoudestSoFarIsFullScale) {
     EXPECT_EQ(volumeAt(500), 25) << "the scale never shrinks";
 }
 
-TEST_F(UCWaveInWith, HalvesGoToTheEvenNumber) {
+TEST_F(UCWaveInTest, HalvesGoToTheEvenNumber) {
     const auto check = [this](std::int32_t peak, std::int32_t level, std::int32_t volume) {
         sound.Become({{"mic"}});
         create();
@@ -171,7 +168,7 @@ TEST_F(UCWaveInWith, HalvesGoToTheEvenNumber) {
     check(2147483647, 1073741824, 25);
 }
 
-TEST_F(UCWaveInWith, TheFirstInputIsReadOnceMoreForEveryInputInUse) {
+TEST_F(UCWaveInTest, TheFirstInputIsReadOnceMoreForEveryInputInUse) {
     withInputs(3);
     sound.taps[0].next = {10, 40, 20, 30, 1000};
     EXPECT_EQ(wi->GetVolume(), 50);
@@ -180,14 +177,14 @@ TEST_F(UCWaveInWith, TheFirstInputIsReadOnceMoreForEveryInputInUse) {
     EXPECT_EQ(volumeAt(20), 1);
 }
 
-TEST_F(UCWaveInWith, TheLoudestOfTheReadsCounts) {
+TEST_F(UCWaveInTest, TheLoudestOfTheReadsCounts) {
     withInputs(2);
     EXPECT_EQ(volumeAt(100), 50);
     sound.taps[0].next = {0, 50, 20};
     EXPECT_EQ(wi->GetVolume(), 25);
 }
 
-TEST_F(UCWaveInWith, OtherInputsMoveTheirMetersButNotTheSensor) {
+TEST_F(UCWaveInTest, OtherInputsMoveTheirMetersButNotTheSensor) {
     withInputs(2);
     EXPECT_EQ(volumeAt(10), 50);
     sound.taps[0].level = 0;
@@ -197,7 +194,7 @@ TEST_F(UCWaveInWith, OtherInputsMoveTheirMetersButNotTheSensor) {
     EXPECT_EQ(wi->GetWaveVolume(2), 2.5F) << "louder than anything input 1 has heard";
 }
 
-TEST_F(UCWaveInWith, MetersAreRelativeToThePeakInSinglePrecision) {
+TEST_F(UCWaveInTest, MetersAreRelativeToThePeakInSinglePrecision) {
     withInputs(1);
     EXPECT_EQ(volumeAt(3), 50);
     sound.taps[0].level = 1;
@@ -206,7 +203,7 @@ TEST_F(UCWaveInWith, MetersAreRelativeToThePeakInSinglePrecision) {
     EXPECT_EQ(wi->GetWaveVolume(1), 2.0F) << "only the sensor itself raises the peak";
 }
 
-TEST_F(UCWaveInWith, AnUnknownInputIsAnError) {
+TEST_F(UCWaveInTest, AnUnknownInputIsAnError) {
     withInputs(5);
     EXPECT_THROW((void)wi->GetWaveVolume(0), std::out_of_range);
     EXPECT_THROW((void)wi->GetWaveVolume(6), std::out_of_range);
@@ -216,4 +213,4 @@ TEST_F(UCWaveInWith, AnUnknownInputIsAnError) {
 }
 
 } // namespace
-} // namespace veltrix
+} // namespace veltrix::test

@@ -1,51 +1,31 @@
 #include "instruments/clsDisplay.h"
 
-#include "tests/support/Pictures.h"
-#include "tests/support/TestBoard.h"
+#include "tests/support/SurfaceFixture.h"
+#include "tests/support/NumberRange.h"
 
-#include <gtest/gtest.h>
-
-#include <limits>
 #include <stdexcept>
 
-namespace veltrix {
+namespace veltrix::test {
 namespace {
 
-namespace colours = test::boardColours;
+namespace colours = boardColours;
 
-struct clsDisplayTest : testing::Test {
-    clsDisplayTest() {
-        started = surface.Start(folder.Path(), Board::Width, Board::Height, 1, log);
-        display.Constructor(surface);
-    }
+struct clsDisplayTest : SurfaceFixture {
+    clsDisplayTest() { display.Constructor(surface); }
 
     /// The digit that is seen, -1 when there is none.
-    std::int32_t seen() {
-        surface.Refresh();
-        const std::uint32_t first = surface.Frame().Row(282)[266];
-        EXPECT_EQ(surface.Frame().Row(282 + 26)[266 + 19], first);
-        EXPECT_EQ(surface.Frame().Row(281)[266], 0xFF000000);
-        EXPECT_EQ(surface.Frame().Row(282)[265], 0xFF000000);
-        for (std::uint32_t digit = 0; digit <= 9; ++digit)
-            if (first == colours::digit(digit))
-                return static_cast<std::int32_t>(digit);
-        return -1;
-    }
+    std::int32_t seen() { return pictureIn({266, 282, 20, 27}, 10, colours::digit); }
 
-    test::PictureFolder folder;
-    test::KeptLog log;
-    PictorATL surface;
-    bool started = false;
     clsDisplay display;
 };
 
 TEST_F(clsDisplayTest, ANewDisplayShowsZero) {
-    EXPECT_EQ(log.Lines, std::vector<std::string>());
+    expectNothingMissed();
     EXPECT_EQ(display.Value(), 0);
     EXPECT_EQ(seen(), 0);
 }
 
-TEST_F(clsDisplayTest, ShowsEveryDigitWithOneSprite) {
+TEST_F(clsDisplayTest, EveryDigitIsShownByOneSprite) {
     for (std::int32_t digit = 9; digit >= 0; --digit) {
         display.SetValue(digit);
         EXPECT_EQ(display.Value(), digit);
@@ -66,8 +46,7 @@ TEST_F(clsDisplayTest, TenStepsFromZeroLeadBackToZero) {
 }
 
 TEST_F(clsDisplayTest, ANumberThatIsNoDigitIsAnErrorAndNotTaken) {
-    for (const std::int32_t number : {10, -1, std::numeric_limits<std::int32_t>::min(),
-                                      std::numeric_limits<std::int32_t>::max()}) {
+    for (const std::int32_t number : {10, -1, least, most}) {
         display.SetValue(7);
         EXPECT_THROW(display.SetValue(number), std::out_of_range) << number;
         EXPECT_EQ(display.Value(), 7);
@@ -86,4 +65,4 @@ TEST_F(clsDisplayTest, TheSameDigitAgainPaintsNothing) {
 }
 
 } // namespace
-} // namespace veltrix
+} // namespace veltrix::test

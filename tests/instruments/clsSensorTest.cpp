@@ -1,47 +1,26 @@
 #include "instruments/clsSensor.h"
 
-#include "tests/support/Pictures.h"
-#include "tests/support/TestBoard.h"
+#include "tests/support/SurfaceFixture.h"
+#include "tests/support/NumberRange.h"
 
-#include <gtest/gtest.h>
-
-#include <limits>
 #include <stdexcept>
 
-namespace veltrix {
+namespace veltrix::test {
 namespace {
 
-namespace colours = test::boardColours;
+namespace colours = boardColours;
 
-struct clsSensorTest : testing::Test {
-    clsSensorTest() {
-        started = surface.Start(folder.Path(), 100, 100, 1, log);
-        sensor.Constructor(surface, 20, 30);
-    }
+struct clsSensorTest : SurfaceFixture {
+    clsSensorTest() { sensor.Constructor(surface, 20, 30); }
 
     /// The mode whose picture is seen, -1 when there is none.
-    std::int32_t seen() {
-        surface.Refresh();
-        const std::uint32_t first = surface.Frame().Row(30)[20];
-        EXPECT_EQ(surface.Frame().Row(30 + 47)[20 + 47], first);
-        EXPECT_EQ(surface.Frame().Row(30)[19], 0xFF000000);
-        EXPECT_EQ(surface.Frame().Row(30 + 48)[20 + 47], 0xFF000000);
-        for (std::uint32_t mode = 0; mode <= 2; ++mode)
-            if (first == colours::sensor(mode))
-                return static_cast<std::int32_t>(mode);
-        EXPECT_EQ(first, 0xFF000000);
-        return -1;
-    }
+    std::int32_t seen() { return pictureIn({20, 30, 48, 48}, 3, colours::sensor); }
 
-    test::PictureFolder folder;
-    test::KeptLog log;
-    PictorATL surface;
-    bool started = false;
     clsSensor sensor;
 };
 
 TEST_F(clsSensorTest, ANewSensorIsDarkAndShowsTheFirstPicture) {
-    EXPECT_EQ(log.Lines, std::vector<std::string>());
+    expectNothingMissed();
     EXPECT_EQ(sensor.Value(), 0);
     EXPECT_EQ(seen(), 0);
 }
@@ -56,8 +35,7 @@ TEST_F(clsSensorTest, ThreeClicksLeadBackToTheFirstMode) {
 }
 
 TEST_F(clsSensorTest, AModeWithoutAPictureIsKeptAndShowsNone) {
-    for (const std::int32_t mode : {3, -1, 1000, std::numeric_limits<std::int32_t>::min(),
-                                    std::numeric_limits<std::int32_t>::max()}) {
+    for (const std::int32_t mode : {3, -1, 1000, least, most}) {
         sensor.SetValue(mode);
         EXPECT_EQ(sensor.Value(), mode);
         EXPECT_EQ(seen(), -1) << mode;
@@ -74,21 +52,20 @@ TEST_F(clsSensorTest, AClickCountsOnFromAnyMode) {
     sensor.NextValue();
     EXPECT_EQ(sensor.Value(), 0);
     EXPECT_EQ(seen(), 0);
-    sensor.SetValue(std::numeric_limits<std::int32_t>::max());
+    sensor.SetValue(most);
     EXPECT_THROW(sensor.NextValue(), std::overflow_error);
-    EXPECT_EQ(sensor.Value(), std::numeric_limits<std::int32_t>::max());
+    EXPECT_EQ(sensor.Value(), most);
 }
 
-TEST_F(clsSensorTest, LiesOnLevelEight) {
+TEST_F(clsSensorTest, ASensorLiesOnLevelEight) {
     // Younger than the sensor: what shares its level lies above it.
     const std::int32_t other = surface.CreateSprite(surface.LoadBitmap("\\images2\\RedLight.bmp"));
     surface.PlaceSprite(other, 20, 30);
     surface.SetLevel(other, 7);
     EXPECT_EQ(seen(), 0);
     surface.SetLevel(other, 8);
-    surface.Refresh();
-    EXPECT_EQ(surface.Frame().Row(30)[20], colours::RedLight);
+    EXPECT_EQ(pixel(20, 30), colours::RedLight);
 }
 
 } // namespace
-} // namespace veltrix
+} // namespace veltrix::test

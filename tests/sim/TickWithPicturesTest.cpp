@@ -49,8 +49,7 @@ struct Witness : Clock, Pointer, SoundSensor, SoundPlayer, TickTimer, PointerFol
 };
 
 TEST(TickWithPictures, DoesItsStepsInOrderAndPaintsLast) {
-    const PictureFolder pictures;
-    TestBoard test(pictures.Path());
+    TestBoard test(boardPictures());
     Board& board = test.board;
     Witness witness(board);
     clsGraph graph;
@@ -74,8 +73,7 @@ TEST(TickWithPictures, DoesItsStepsInOrderAndPaintsLast) {
 }
 
 TEST(TickWithPictures, ATickOnABoardAtRestPaintsNothing) {
-    const PictureFolder pictures;
-    TestSimulation sim(pictures.Path());
+    TestSimulation sim(boardPictures());
     wire(sim.board, "Invertor Uitgang", "LED 1 Ingang");
     sim.surface.Refresh();
     sim.runTicks(1);
@@ -95,9 +93,8 @@ TEST(TickWithPictures, TheSameRunTwiceGivesTheSameFrames) {
         sim.board.Knobs.PulseGenerator = 30;
         sim.runTicks(500);
     };
-    const PictureFolder pictures;
-    TestSimulation first(pictures.Path());
-    TestSimulation second(pictures.Path());
+    TestSimulation first(boardPictures());
+    TestSimulation second(boardPictures());
     play(first);
     play(second);
     EXPECT_EQ(first.surface.Frame().pixels, second.surface.Frame().pixels);

@@ -9,8 +9,17 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace veltrix::test {
+
+/// Opaque colours, 0xAARRGGBB.
+inline constexpr std::uint32_t red = 0xFFFF0000;
+inline constexpr std::uint32_t green = 0xFF00FF00;
+inline constexpr std::uint32_t blue = 0xFF0000FF;
+inline constexpr std::uint32_t white = 0xFFFFFFFF;
+inline constexpr std::uint32_t nothing = 0xFF000000; ///< what a frame shows where nothing lies
 
 /// A picture in one colour, 0xAARRGGBB.
 inline Picture plain(std::int32_t width, std::int32_t height, std::uint32_t colour) {
@@ -18,6 +27,12 @@ inline Picture plain(std::int32_t width, std::int32_t height, std::uint32_t colo
     picture.pixels.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height),
                           colour);
     return picture;
+}
+
+/// A picture one pixel high.
+inline Picture rowOf(std::vector<std::uint32_t> pixels) {
+    const auto width = static_cast<std::int32_t>(pixels.size());
+    return {width, 1, std::move(pixels)};
 }
 
 /// A BMP of 24 bits a pixel, for opaque pictures: far quicker to write than a PNG.
@@ -61,13 +76,15 @@ inline void writePicture(const std::filesystem::path& folder, const std::string&
         WritePng(picture, file);
 }
 
-/// Every picture that a board loads, as large as the real ones but each in one colour of its own,
-/// all masks white: what a test sees in the frame then tells which picture it was.
+/// The colours of the pictures that a board and its cursor load. Each picture is as large as the
+/// real one but in one colour of its own, all masks are white: what a test sees in the frame then
+/// tells which picture it was.
 namespace boardColours {
 inline constexpr std::uint32_t Board = 0xFF204060;
 inline constexpr std::uint32_t RedLight = 0xFFFF0000;
 inline constexpr std::uint32_t Scale = 0xFF000080;
 inline constexpr std::uint32_t VPointer = 0xFFFFFF00;
+inline constexpr std::uint32_t Ring = 0xFF00C080;
 
 constexpr std::uint32_t line(std::uint32_t colourNumber) {
     return 0xFF00A000 + colourNumber;
@@ -82,14 +99,16 @@ constexpr std::uint32_t sensor(std::uint32_t mode) {
 }
 } // namespace boardColours
 
+/// Puts all of these pictures where the program looks for them.
 inline void writeBoardPictures(const std::filesystem::path& folder) {
-    constexpr std::uint32_t white = 0xFFFFFFFF;
     writePicture(folder, "\\images2\\Bord.bmp", plain(415, 376, boardColours::Board));
     writePicture(folder, "\\images2\\RedLight.bmp", plain(32, 32, boardColours::RedLight));
     writePicture(folder, "\\images2\\RedLightMask.bmp", plain(32, 32, white));
     writePicture(folder, "\\images2\\0-5V.bmp", plain(213, 48, boardColours::Scale));
     writePicture(folder, "\\images2\\VPointer.bmp", plain(15, 18, boardColours::VPointer));
     writePicture(folder, "\\images2\\VPointerMask.bmp", plain(15, 18, white));
+    writePicture(folder, "\\images2\\Cursor.bmp", plain(32, 32, boardColours::Ring));
+    writePicture(folder, "\\images2\\CursorMask.bmp", plain(32, 32, white));
     writePicture(folder, "\\images1\\LineMask.bmp", plain(1024, 32, white));
     for (std::uint32_t i = 1; i <= 9; ++i)
         writePicture(folder, "\\images1\\Line" + std::to_string(i) + ".bmp",
@@ -104,9 +123,15 @@ inline void writeBoardPictures(const std::filesystem::path& folder) {
     writePicture(folder, "\\images2\\Sensors.bmp", sensors);
 }
 
-/// A folder with these pictures, for as long as a test lasts.
-struct PictureFolder : TempFolder {
-    PictureFolder() { writeBoardPictures(Path()); }
-};
+/// The folder with these pictures that all tests of a program read: writing them takes longer than
+/// most tests do.
+inline const std::filesystem::path& boardPictures() {
+    struct PictureFolder : TempFolder {
+        PictureFolder() { writeBoardPictures(Path()); }
+    };
+
+    static const PictureFolder folder;
+    return folder.Path();
+}
 
 } // namespace veltrix::test

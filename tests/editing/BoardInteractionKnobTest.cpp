@@ -1,33 +1,15 @@
-#include "tests/support/MemoryDesktop.h"
+#include "tests/editing/EditingFixture.h"
 #include "tests/support/Pictures.h"
-#include "tests/support/TempFolder.h"
-
-#include <gtest/gtest.h>
 
 namespace veltrix::test {
-
 namespace {
 
 /// The knob as a pupil uses it: opened by its regulator, dragged, closed by its cross.
-struct KnobUse : testing::Test {
-    KnobUse() : desktop(pictures()) { desktop.Start(); }
-
-    static const std::filesystem::path& pictures() {
-        static const TempFolder folder;
-        static const bool written = [] {
-            writeBoardPictures(folder.Path());
-            return true;
-        }();
-        EXPECT_TRUE(written);
-        return folder.Path();
-    }
-
-    [[nodiscard]] const Board& board() const { return desktop.form.TheBoard(); }
+struct KnobUse : EditingFixture {
+    KnobUse() : EditingFixture(boardPictures()) {}
 
     /// A position on the open scale of the comparator's knob.
     static Point onScale(std::int32_t x) { return {100 + x, 150 + 20}; }
-
-    MemoryDesktop desktop;
 };
 
 TEST_F(KnobUse, ARegulatorOpensTheKnobWithItsOwnLevel) {
@@ -99,7 +81,7 @@ TEST_F(KnobUse, TurningAKnobRecordsNoUndoState) {
     desktop.Click("Comparator Regelaar");
     desktop.Click(onScale(6 + 4 * 20));
     desktop.RunTicks(1);
-    EXPECT_EQ(desktop.form.TheUndoList().Count(), 1);
+    EXPECT_EQ(undo().Count(), 1);
 }
 
 TEST_F(KnobUse, APointerOverTheKnobIsAHand) {
@@ -109,5 +91,4 @@ TEST_F(KnobUse, APointerOverTheKnobIsAHand) {
 }
 
 } // namespace
-
 } // namespace veltrix::test
