@@ -134,7 +134,7 @@ public:
     // The mouse: the front end hands events in, the surface hands them on with the sprite they hit.
 
     /// Listeners are called in the order in which they were added, and must outlive the surface or
-    /// be removed.
+    /// be removed; neither adds nor removes one while an event is handed on.
     void AddListener(SurfaceEvents& listener);
     void RemoveListener(SurfaceEvents& listener);
 

@@ -31,6 +31,7 @@ public:
     virtual void SetSaveEnabled(bool Enabled) = 0;
 };
 
+/// What can end the program.
 class ProgramEnd {
 public:
     virtual ~ProgramEnd() = default;

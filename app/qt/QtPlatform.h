@@ -27,6 +27,7 @@ private:
     QTimer timer_;
 };
 
+/// The time of day in the zone of the computer.
 class SystemClock : public Clock {
 public:
     [[nodiscard]] float Timer() override;
@@ -49,11 +50,13 @@ private:
     Point position_;
 };
 
+/// A line of the standard error output for each fault, with the name of the program before it.
 class StandardErrorLog : public Log {
 public:
     void Write(const std::string& line) noexcept override;
 };
 
+/// The process; the application must be there before it.
 class QtProgram : public Program {
 public:
     QtProgram();

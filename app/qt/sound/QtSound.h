@@ -37,6 +37,7 @@ private:
     std::int32_t index_ = 0;
 };
 
+/// Hands the wishes of the program on to the thread of the sound.
 class QtSoundPlayer : public SoundPlayer {
 public:
     explicit QtSoundPlayer(QtSound& sound) : sound_(sound) {}
