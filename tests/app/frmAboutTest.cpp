@@ -1,6 +1,6 @@
 #include "app/frmAbout.h"
 
-#include "tests/support/FakeShell.h"
+#include "tests/support/FakeAboutViews.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

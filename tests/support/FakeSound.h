@@ -23,6 +23,7 @@ struct FakeInputs {
     bool answered = true; ///< whether the computer has told how many there are
 };
 
+/// A capture that listens to an input of such a computer; the test says how loud it is.
 struct FakeTap : AudioTap2 {
     std::int32_t DeviceCount() override {
         return computer->answered ? static_cast<std::int32_t>(computer->inputs.size()) : -1;
@@ -57,6 +58,7 @@ struct FakeTap : AudioTap2 {
     std::vector<std::int32_t> next; ///< what the coming reads find, before `level`
 };
 
+/// Settings in which every value is the same one, and that keep what was asked.
 struct FakeSettings : Settings {
     std::string Get(const std::string& application, const std::string& section,
                     const std::string& key, const std::string& standard) override {

@@ -7,11 +7,13 @@
 
 namespace veltrix::test {
 
+/// Forgets every line.
 class NullLog : public Log {
 public:
     void Write(const std::string& /*line*/) noexcept override {}
 };
 
+/// Keeps every line.
 class KeptLog : public Log {
 public:
     void Write(const std::string& line) noexcept override { Lines.push_back(line); }

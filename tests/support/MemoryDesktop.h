@@ -2,6 +2,8 @@
 
 #include "app/EventEdge.h"
 #include "app/FORM1.h"
+#include "tests/support/FakeAboutViews.h"
+#include "tests/support/FakeHelpViews.h"
 #include "tests/support/FakeShell.h"
 #include "tests/support/FakeSound.h"
 #include "tests/support/Logs.h"
@@ -44,6 +46,8 @@ struct FakeMessageBox : MessageBox {
     std::deque<Answer> answers;
 };
 
+/// Keeps the filter it was asked with, and answers with the file that the test chose (none
+/// without).
 struct FakeFileDialog : FileDialog {
     std::optional<std::string> ShowOpen(const std::string& asked) override { return answer(asked); }
 
@@ -61,6 +65,7 @@ private:
     }
 };
 
+/// Keeps what was done to it and in which order.
 struct FakeWindow : MainWindow {
     void ShowSplash() override { events.emplace_back("splash shown"); }
 
@@ -82,6 +87,7 @@ struct FakeWindow : MainWindow {
     bool saveEnabled = true;
 };
 
+/// Keeps which items are enabled and checked.
 struct FakeMenu : UndoMenu, EditModeMenu {
     void SetUndoEnabled(bool Enabled) override { undoEnabled = Enabled; }
 
@@ -94,6 +100,7 @@ struct FakeMenu : UndoMenu, EditModeMenu {
     std::optional<EditMode> mode;
 };
 
+/// A program in a folder without pictures, until the test names another one.
 struct FakeProgram : Program {
     const std::filesystem::path& Folder() const override { return folder; }
 
@@ -106,13 +113,14 @@ struct FakeProgram : Program {
     std::optional<int> ended;
 };
 
+/// Keeps what was told without a box.
 struct FakeNotice : FaultNotice {
     void Show(const std::string& text) override { shown.push_back(text); }
 
     std::vector<std::string> shown;
 };
 
-/// The dialog of the sound inputs. While it is shown the test does `whileShown`.
+/// What a dialog of the sound inputs shows.
 struct FakeWaveInputs {
     std::string inputCount;
     std::map<std::int32_t, std::string> names;
@@ -122,6 +130,7 @@ struct FakeWaveInputs {
     bool unloaded = false;
 };
 
+/// Makes such dialogs. While one is shown the test does `whileShown`.
 struct FakeWaveInputsViews : WaveInputsViews {
     using WhileShown = std::function<void(frmWaveInputs&, FakeWaveInputs&)>;
 
@@ -161,6 +170,7 @@ struct FakeWaveInputsViews : WaveInputsViews {
     WhileShown whileShown;
 };
 
+/// Keeps what it was asked to start, and starts nothing.
 struct FakeProgramStart : ProgramStart {
     bool Start(const std::string& commandLine) override {
         asked.push_back(commandLine);
@@ -214,7 +224,7 @@ struct MemoryDesktop {
     void RunTicks(int count) {
         for (int i = 0; i < count; ++i) {
             ++ticks;
-            clock.now = static_cast<float>(ticks / 100.0);
+            clock.now = static_cast<float>(ticks * TestSimulation::secondsPerTick);
             edge.Tick();
         }
     }
