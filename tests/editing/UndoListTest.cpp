@@ -1,6 +1,9 @@
 #include "tests/editing/EditingFixture.h"
 
+#include <cstdint>
 #include <stdexcept>
+#include <string>
+#include <vector>
 
 namespace veltrix::test {
 namespace {
@@ -16,6 +19,7 @@ struct UndoListTest : EditingFixture {
     void expectOnlyMessage(const std::string& text) {
         ASSERT_EQ(desktop.messages.shown.size(), 1U);
         EXPECT_EQ(desktop.messages.shown[0].text, text);
+        EXPECT_EQ(desktop.messages.shown[0].title, ProgramTitle);
         EXPECT_EQ(desktop.messages.shown[0].buttons, Buttons::Ok);
     }
 };
@@ -39,7 +43,7 @@ TEST_F(UndoListTest, AnEditAfterTwoUndosCutsOffWhatWasUndone) {
     EXPECT_EQ(desktop.Wires(), 2);
 }
 
-TEST_F(UndoListTest, UndoAndRedoGiveBackButtonsSensorsKnobsAndCounter) {
+TEST_F(UndoListTest, UndoAndRedoGiveBackWiresButtonsAndSensors) {
     desktop.DrawWire("Puls Generator Uit Geel", "Pulsenteller Tel pulsen (In)");
     desktop.Click("Drukknop 1");
     desktop.Click("Sensor 2");
@@ -49,11 +53,35 @@ TEST_F(UndoListTest, UndoAndRedoGiveBackButtonsSensorsKnobsAndCounter) {
     desktop.form.mnuUndo_Click();
     EXPECT_FALSE(board().PushButtons[0].Value());
     EXPECT_EQ(desktop.Wires(), 1);
-    desktop.form.mnuRedo_Click();
-    desktop.form.mnuRedo_Click();
+    desktop.form.mnuUndo_Click();
+    EXPECT_EQ(desktop.Wires(), 0);
+    for (int i = 0; i < 3; ++i)
+        desktop.form.mnuRedo_Click();
+    EXPECT_EQ(desktop.Wires(), 1);
     EXPECT_TRUE(board().PushButtons[0].Value());
     EXPECT_EQ(board().Sensors[1].Value(), 1);
     expectState(4, 4);
+}
+
+TEST_F(UndoListTest, KnobLevelsAndCountComeBackAsTheyWereAtTheLastEdit) {
+    // Neither records an undo state of its own.
+    Board& changed = const_cast<Board&>(board());
+    const auto levels = [&] {
+        return std::vector<std::int32_t>{board().Knobs.Comparator, board().Knobs.VariableVoltage,
+                                         board().Knobs.PulseGenerator, board().Display.Value()};
+    };
+    changed.Knobs = {10, 20, 30};
+    changed.Display.SetValue(4);
+    const std::vector<std::int32_t> before = levels();
+    desktop.Click("Drukknop 1");
+    changed.Knobs = {11, 21, 31};
+    changed.Display.SetValue(5);
+    const std::vector<std::int32_t> after = levels();
+    desktop.Click("Drukknop 1");
+    desktop.form.mnuUndo_Click();
+    EXPECT_EQ(levels(), before);
+    desktop.form.mnuRedo_Click();
+    EXPECT_EQ(levels(), after);
 }
 
 TEST_F(UndoListTest, PastTheFirstUndoStateThereIsAMessageAndNothingIsLoaded) {
