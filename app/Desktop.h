@@ -15,7 +15,6 @@
 #include "instruments/UCWaveIn.h"
 #include "sim/Tick.h"
 
-#include <cstdint>
 #include <filesystem>
 #include <string>
 

@@ -3,8 +3,8 @@
 #include "cli/Fault.h"
 #include "cli/Simulation.h"
 
+#include <exception>
 #include <ostream>
-#include <stdexcept>
 #include <utility>
 
 namespace veltrix::cli {

@@ -8,7 +8,6 @@
 #include "sim/Tick.h"
 
 #include <cstdint>
-#include <string>
 
 namespace veltrix {
 

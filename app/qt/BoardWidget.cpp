@@ -30,7 +30,7 @@ Point boardPixel(QPointF position) {
 
 BoardWidget::BoardWidget(QWidget* parent) : QWidget(parent) {
     setObjectName("Pictor1");
-    setAccessibleName(tr("Veltrix-bord"));
+    setAccessibleName("Veltrix-bord");
     setFixedSize(Board::Width, Board::Height);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);

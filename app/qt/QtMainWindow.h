@@ -7,7 +7,6 @@
 #include <QMainWindow>
 
 #include <filesystem>
-#include <functional>
 #include <memory>
 
 class QAction;

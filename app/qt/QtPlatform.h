@@ -5,7 +5,6 @@
 #include "sim/Tick.h"
 
 #include <QElapsedTimer>
-#include <QPointer>
 #include <QTimer>
 
 #include <filesystem>

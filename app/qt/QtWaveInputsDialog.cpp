@@ -88,8 +88,8 @@ QtWaveInputsDialog::QtWaveInputsDialog(QWidget* parent)
     timer1_.setInterval(frmWaveInputs::Interval);
 }
 
-VolumeMeter* QtWaveInputsDialog::addMeter(QGridLayout& rows, int row, const QString& caption,
-                                          std::int32_t i) {
+void QtWaveInputsDialog::addMeter(QGridLayout& rows, int row, const QString& caption,
+                                  std::int32_t i) {
     auto* label = new QLabel(caption, this);
     label->setObjectName(QString("Label2_%1").arg(i - 1));
     rows.addWidget(label, row, 0);
@@ -98,7 +98,6 @@ VolumeMeter* QtWaveInputsDialog::addMeter(QGridLayout& rows, int row, const QStr
     meter->setAccessibleName(caption);
     rows.addWidget(meter, row, 1, Qt::AlignVCenter);
     meters_[static_cast<std::size_t>(i - 1)] = meter;
-    return meter;
 }
 
 void QtWaveInputsDialog::SetInputCount(const std::string& caption) {

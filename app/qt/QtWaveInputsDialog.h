@@ -34,7 +34,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    VolumeMeter* addMeter(QGridLayout& rows, int row, const QString& caption, std::int32_t i);
+    void addMeter(QGridLayout& rows, int row, const QString& caption, std::int32_t i);
 
     QLabel* inputCount_ = nullptr;
     std::array<QLabel*, UCWaveIn::Inputs> names_{};

@@ -33,7 +33,7 @@ private:
     frmHelp& help_;
 };
 
-/// Makes them, with the pages of an application folder.
+/// Makes the windows, with their icon out of the application folder.
 class QtHelpWindows : public HelpViews {
 public:
     explicit QtHelpWindows(const std::filesystem::path& applicationFolder)
