@@ -4,6 +4,8 @@
 //
 // Both are 16-bit mono files that are played over and over, so each must begin as it ends.
 
+#include "tools/BinaryFile.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -11,14 +13,12 @@
 #include <cstdint>
 #include <cstdio>
 #include <exception>
-#include <fstream>
 #include <numbers>
-#include <stdexcept>
-#include <string>
-#include <string_view>
 #include <vector>
 
 namespace {
+
+using veltrix::tools::BinaryFile;
 
 constexpr std::uint32_t sampleRate = 44100;
 
@@ -86,46 +86,27 @@ void setPeak(Loop& loop, double peak) {
         sample *= peak / loudest;
 }
 
-class WaveFile {
-public:
-    explicit WaveFile(const Loop& loop) {
-        constexpr std::uint32_t bytesPerSample = 2;
-        const auto bytes = static_cast<std::uint32_t>(loop.size()) * bytesPerSample;
-        text("RIFF");
-        number(36 + bytes, 4);
-        text("WAVE");
-        text("fmt ");
-        number(16, 4);                          // length of this chunk
-        number(1, 2);                           // PCM
-        number(1, 2);                           // channels
-        number(sampleRate, 4);                  // frames a second
-        number(sampleRate * bytesPerSample, 4); // bytes a second
-        number(bytesPerSample, 2);              // bytes a frame
-        number(8 * bytesPerSample, 2);          // bits a sample
-        text("data");
-        number(bytes, 4);
-        for (const double sample : loop)
-            number(static_cast<std::uint32_t>(std::lround(sample * 32767)), bytesPerSample);
-    }
-
-    void Write(const std::string& path) const {
-        std::ofstream file(path, std::ios::binary);
-        file.write(bytes_.data(), static_cast<std::streamsize>(bytes_.size()));
-        file.close();
-        if (!file)
-            throw std::runtime_error(path + ": cannot be written");
-    }
-
-private:
-    void text(std::string_view text) { bytes_ += text; }
-
-    void number(std::uint32_t value, std::uint32_t bytes) {
-        for (std::uint32_t i = 0; i < bytes; ++i)
-            bytes_ += static_cast<char>(static_cast<unsigned char>(value >> (8 * i) & 0xFF));
-    }
-
-    std::string bytes_;
-};
+BinaryFile waveFile(const Loop& loop) {
+    constexpr int bytesPerSample = 2;
+    const auto bytes = static_cast<std::uint32_t>(loop.size()) * bytesPerSample;
+    BinaryFile file;
+    file.Text("RIFF");
+    file.Number(36 + bytes, 4);
+    file.Text("WAVE");
+    file.Text("fmt ");
+    file.Number(16, 4);                          // length of this chunk
+    file.Number(1, 2);                           // PCM
+    file.Number(1, 2);                           // channels
+    file.Number(sampleRate, 4);                  // frames a second
+    file.Number(sampleRate * bytesPerSample, 4); // bytes a second
+    file.Number(bytesPerSample, 2);              // bytes a frame
+    file.Number(8 * bytesPerSample, 2);          // bits a sample
+    file.Text("data");
+    file.Number(bytes, 4);
+    for (const double sample : loop)
+        file.Number(static_cast<std::uint32_t>(std::lround(sample * 32767)), bytesPerSample);
+    return file;
+}
 
 } // namespace
 
@@ -137,8 +118,8 @@ int main(int argc, char** argv) {
     try {
         Loop bellLoop = ringing();
         setPeak(bellLoop, 0.5); // headphones are worn in computer rooms
-        WaveFile(bellLoop).Write(argv[1]);
-        WaveFile(silence(0.5)).Write(argv[2]);
+        waveFile(bellLoop).Write(argv[1]);
+        waveFile(silence(0.5)).Write(argv[2]);
         return 0;
     } catch (const std::exception& error) {
         std::fprintf(stderr, "make_sounds: %s\n", error.what());
