@@ -1,7 +1,7 @@
 #include "instruments/clsDisplay.h"
 
-#include "tests/support/SurfaceFixture.h"
 #include "tests/support/NumberRange.h"
+#include "tests/support/SurfaceFixture.h"
 
 #include <stdexcept>
 

@@ -1,7 +1,7 @@
 #include "instruments/clsVoltControl.h"
 
-#include "tests/support/SurfaceFixture.h"
 #include "tests/support/NumberRange.h"
+#include "tests/support/SurfaceFixture.h"
 
 namespace veltrix::test {
 namespace {
