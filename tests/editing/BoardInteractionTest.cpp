@@ -173,6 +173,16 @@ TEST_F(Operating, InRemovingModeControlsDoNothing) {
     EXPECT_FALSE(board().Knob.Visible());
 }
 
+TEST_F(Operating, APressThatCannotBeRecordedIsAnErrorAndStands) {
+    // As a document may leave the board: more wires than an undo state holds.
+    Board& crowded = const_cast<Board&>(board());
+    for (int i = 0; i < 1800; ++i)
+        crowded.AddLine("Pulsenteller Tel pulsen (In)", "LED 1 Ingang");
+    EXPECT_THROW(desktop.Click("Drukknop 1"), std::out_of_range);
+    EXPECT_TRUE(board().PushButtons[0].Value());
+    EXPECT_EQ(desktop.Wires(), 1800);
+}
+
 TEST_F(Operating, TheRightButtonOperatesNothing) {
     desktop.Click(at(board(), "Drukknop 1"), MouseButton::Right);
     EXPECT_FALSE(board().PushButtons[0].Value());
