@@ -5,11 +5,11 @@
 namespace veltrix {
 
 void UndoList::Undo_AddThisState() {
-    while (snapshots_.Count() > pointer_)
-        snapshots_.Remove(snapshots_.Count());
-    auto snapshot = std::make_shared<clsKorvelRWRam>();
-    WriteTo(board_, *snapshot);
-    snapshots_.Add(std::move(snapshot));
+    while (states_.Count() > pointer_)
+        states_.Remove(states_.Count());
+    auto state = std::make_shared<clsKorvelRWRam>();
+    WriteTo(board_, *state);
+    states_.Add(std::move(state));
     ++pointer_;
     enableMenu();
 }
@@ -26,8 +26,8 @@ void UndoList::mnuUndo_Click() {
 
 void UndoList::mnuRedo_Click() {
     ++pointer_;
-    if (pointer_ > snapshots_.Count()) {
-        pointer_ = snapshots_.Count();
+    if (pointer_ > states_.Count()) {
+        pointer_ = states_.Count();
         messages_.Show("No more Redo's possible", ProgramTitle, Buttons::Ok);
         return;
     }
@@ -35,28 +35,28 @@ void UndoList::mnuRedo_Click() {
 }
 
 void UndoList::Undo_RemoveLastState() {
-    snapshots_.Remove(pointer_);
+    states_.Remove(pointer_);
     mnuUndo_Click();
 }
 
 void UndoList::Reset() {
     // The wire in hand belonged to the board that was replaced.
     looseWire_.Line.reset();
-    snapshots_ = {};
+    states_ = {};
     pointer_ = 0;
     Undo_AddThisState();
 }
 
 void UndoList::load() {
-    clsKorvelRWRam& snapshot = *snapshots_.Item(pointer_);
-    snapshot.ResetToStart();
-    ReadFrom(board_, snapshot);
+    clsKorvelRWRam& state = *states_.Item(pointer_);
+    state.ResetToStart();
+    ReadFrom(board_, state);
     enableMenu();
 }
 
 void UndoList::enableMenu() {
     menu_.SetUndoEnabled(pointer_ >= 2);
-    menu_.SetRedoEnabled(pointer_ < snapshots_.Count());
+    menu_.SetRedoEnabled(pointer_ < states_.Count());
 }
 
 } // namespace veltrix

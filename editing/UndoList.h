@@ -24,9 +24,9 @@ struct LooseWire {
     std::shared_ptr<clsLine> Line;
 };
 
-/// Snapshots of the whole board, one for each edit, and a pointer to the one that the board shows.
-/// Once the first snapshot exists the pointer is 1 to the number of snapshots; undo is enabled from
-/// 2 on, redo while there are snapshots behind the pointer.
+/// The undo states: the whole board as it was after each edit, and a pointer to the one that the
+/// board shows. Once the first state exists the pointer is 1 to the number of states; undo is
+/// enabled from 2 on, redo while there are states behind the pointer.
 class UndoList : public History {
 public:
     /// All of it must outlive the list.
@@ -34,17 +34,17 @@ public:
         : board_(board), looseWire_(looseWire), menu_(menu), messages_(messages) {}
 
     /// Drops the steps that were undone and records the board as it is now. Throws
-    /// std::out_of_range when the board does not fit in a snapshot; the undone steps are gone then.
+    /// std::out_of_range when the board does not fit in a state; the undone steps are gone then.
     void Undo_AddThisState();
 
-    /// Takes the board back one snapshot, or forward one; shows a message when there is none.
+    /// Takes the board back one state, or forward one; shows a message when there is none.
     void mnuUndo_Click();
     void mnuRedo_Click();
 
-    /// Drops the snapshot that was just recorded and takes the board back to the one before it.
+    /// Drops the state that was just recorded and takes the board back to the one before it.
     void Undo_RemoveLastState();
 
-    [[nodiscard]] std::int32_t Count() const noexcept { return snapshots_.Count(); }
+    [[nodiscard]] std::int32_t Count() const noexcept { return states_.Count(); }
 
     [[nodiscard]] std::int32_t Position() const noexcept { return pointer_; }
 
@@ -62,7 +62,7 @@ private:
     LooseWire& looseWire_;
     UndoMenu& menu_;
     MessageBox& messages_;
-    Collection<clsKorvelRWRam> snapshots_;
+    Collection<clsKorvelRWRam> states_;
     std::int32_t pointer_ = 0;
 };
 

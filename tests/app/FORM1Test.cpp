@@ -69,7 +69,7 @@ TEST_F(FORM1Test, ASurfaceThatCannotStartEndsTheProgramBeforeAnythingElseIsShown
     EXPECT_FALSE(desktop.timer.enabled);
 }
 
-TEST_F(FORM1Test, ADocumentOnTheCommandLineIsOpenWithTwoEqualSnapshots) {
+TEST_F(FORM1Test, ADocumentOnTheCommandLineIsOpenWithTwoEqualUndoStates) {
     const SavedBoard saved;
     desktop.Start("\"" + saved.path + "\"");
     EXPECT_EQ(desktop.Wires(), 1);

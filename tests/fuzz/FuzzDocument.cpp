@@ -54,10 +54,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         contain([&] { simulation.runTicks(1); });
     contain([&] { (void)clsGraph2().Check(simulation.board.Lines, simulation.board.Snaps); });
     contain([&] {
-        clsKorvelRWRam snapshot;
-        WriteTo(simulation.board, snapshot);
-        snapshot.ResetToStart();
-        ReadFrom(simulation.board, snapshot);
+        clsKorvelRWRam state;
+        WriteTo(simulation.board, state);
+        state.ResetToStart();
+        ReadFrom(simulation.board, state);
     });
     return 0;
 }
