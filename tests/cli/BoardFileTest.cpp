@@ -1,42 +1,37 @@
 #include "cli/BoardFile.h"
 
-#include "cli/Fault.h"
-#include "cli/Simulation.h"
+#include "tests/cli/BareSimulation.h"
 #include "tests/cli/Cli.h"
 #include "tests/cli/Documents.h"
-#include "tests/support/Logs.h"
+#include "tests/cli/Faults.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <functional>
+#include <string>
 
 namespace veltrix::cli {
 namespace {
 
 using testing::StartsWith;
 
-struct BoardFile : testing::Test {
+struct BoardFileTest : testing::Test, test::BareSimulation {
     Board& board() { return simulation.TheBoard(); }
 
-    static std::string faultOf(const std::function<void()>& act) {
-        try {
-            act();
-        } catch (const Fault& fault) {
-            return fault.what();
-        }
-        return {};
-    }
-
-    test::NullLog log;
-    Simulation simulation{{}, 1, log};
     test::Files files;
 };
 
-TEST_F(BoardFile, ReadsADocument) {
-    const std::string path = files.Add(
-        "één.vtx",
-        test::Document{{{"Zoemer", "Invertor Uitgang"}}, -2, 3, 1, 2, 10, 20, 30, true}.Bytes());
+TEST_F(BoardFileTest, ReadsADocument) {
+    const std::string path =
+        files.Add("één.vtx", test::Document{.wires = {{"Zoemer", "Invertor Uitgang"}},
+                                            .counter = 3,
+                                            .sensor1 = 1,
+                                            .sensor2 = 2,
+                                            .pulse = 10,
+                                            .comparator = 20,
+                                            .voltage = 30,
+                                            .button1 = true}
+                                 .Bytes());
     ReadBoard(path, board());
     ASSERT_EQ(board().Lines.Count(), 1);
     EXPECT_EQ(board().Lines.Item(1)->naam1, "Zoemer");
@@ -45,37 +40,44 @@ TEST_F(BoardFile, ReadsADocument) {
     EXPECT_TRUE(board().PushButtons[0].Value());
 }
 
-TEST_F(BoardFile, FaultyDocumentLeavesTheBoardAsItWas) {
+TEST_F(BoardFileTest, FaultyDocumentLeavesTheBoardAsItWas) {
     board().AddLine("Zoemer", "Invertor Uitgang");
-    const std::string path =
-        files.Add("b.vtx", test::Document{{{"a", "b"}}, 5, 3, 1, 2, 10, 20, 30}.Bytes());
-    EXPECT_THAT(faultOf([&] { ReadBoard(path, board()); }), StartsWith(path + ": "));
+    const std::string path = files.Add(
+        "b.vtx",
+        test::Document{.wires = {{"a", "b"}}, .count = 5, .counter = 3, .comparator = 20}.Bytes());
+    EXPECT_THAT(test::faultOf([&] { ReadBoard(path, board()); }), StartsWith(path + ": "));
     EXPECT_EQ(board().Lines.Count(), 1);
     EXPECT_EQ(board().Display.Value(), 0);
     EXPECT_EQ(board().Knobs.Comparator, 0);
 }
 
-TEST_F(BoardFile, FileThatCannotBeReadIsAFault) {
+TEST_F(BoardFileTest, FileThatCannotBeReadIsAFault) {
     for (const char* name : {"weg.vtx", "weg/weg.vtx"})
-        EXPECT_EQ(faultOf([&] { ReadBoard(files.Path(name), board()); }),
+        EXPECT_EQ(test::faultOf([&] { ReadBoard(files.Path(name), board()); }),
                   files.Path(name) + ": No such file or directory");
-    EXPECT_EQ(faultOf([&] { ReadBoard(files.Path(""), board()); }),
+    EXPECT_EQ(test::faultOf([&] { ReadBoard(files.Path(""), board()); }),
               files.Path("") + ": Is a directory");
 }
 
-TEST_F(BoardFile, WritesWhatItReads) {
+TEST_F(BoardFileTest, WritesWhatItReads) {
     const std::string bytes =
-        test::Document{{{"Zoemer", "\x80 5"}, {"", "Sensor 1 Uit Geel"}}, -2, 9, -7, 2, 51, -1, 30}
+        test::Document{.wires = {{"Zoemer", "\x80 5"}, {"", "Sensor 1 Uit Geel"}},
+                       .counter = 9,
+                       .sensor1 = -7,
+                       .sensor2 = 2,
+                       .pulse = 51,
+                       .comparator = -1,
+                       .voltage = 30}
             .Bytes();
     ReadBoard(files.Add("a.vtx", bytes), board());
     WriteBoard(files.Path("één.vtx"), board());
     EXPECT_EQ(test::bytesOf(PathFromUtf8(files.Path("één.vtx"))), bytes);
 }
 
-TEST_F(BoardFile, FileThatCannotBeWrittenIsAFault) {
-    EXPECT_EQ(faultOf([&] { WriteBoard(files.Path("weg/b.vtx"), board()); }),
+TEST_F(BoardFileTest, FileThatCannotBeWrittenIsAFault) {
+    EXPECT_EQ(test::faultOf([&] { WriteBoard(files.Path("weg/b.vtx"), board()); }),
               files.Path("weg/b.vtx") + ": No such file or directory");
-    EXPECT_EQ(faultOf([&] { WriteBoard("/dev/full", board()); }),
+    EXPECT_EQ(test::faultOf([&] { WriteBoard("/dev/full", board()); }),
               "/dev/full: No space left on device");
 }
 

@@ -8,18 +8,16 @@
 namespace veltrix::cli {
 namespace {
 
-using Wires = std::vector<std::pair<std::string, std::string>>;
-
-void expectFindings(const Wires& wires, const std::vector<std::string>& expected) {
+void expectFindings(const test::Wires& wires, const std::vector<std::string>& expected) {
     test::Files files;
     const test::Outcome outcome =
-        test::cli({"check", files.Add("b.vtx", test::Document{wires}.Bytes())});
+        test::cli({"check", files.Add("b.vtx", test::Document{.wires = wires}.Bytes())});
     EXPECT_EQ(test::linesOf(outcome.output), expected);
     EXPECT_EQ(outcome.errors, "");
     EXPECT_EQ(outcome.code, expected.empty() ? 0 : 1);
 }
 
-TEST(CheckCommand, NothingToReportPrintsNothing) {
+TEST(CheckCommand, ABoardWithoutFaultsPrintsNothing) {
     expectFindings({}, {});
     expectFindings({{"Sensor 1 Uit Geel", "LED 1 Ingang"},
                     {"Sensor 1 Uit Geel", "LED 2 Ingang"},
@@ -28,7 +26,7 @@ TEST(CheckCommand, NothingToReportPrintsNothing) {
                    {});
 }
 
-TEST(CheckCommand, OutputsWiredTogether) {
+TEST(CheckCommand, OutputsWiredTogetherAreReported) {
     expectFindings({{"Sensor 1 Uit Geel", "EN-poort Ingang 1"},
                     {"EN-poort Ingang 1", "Drukknop 1 Uit Geel"},
                     {"Invertor Uitgang", "OF-poort Uit"}},
@@ -36,7 +34,7 @@ TEST(CheckCommand, OutputsWiredTogether) {
                     "outputs wired together: \"Invertor Uitgang\" en \"OF-poort Uit\""});
 }
 
-TEST(CheckCommand, EndsWhereNoWireCanEnd) {
+TEST(CheckCommand, EndsWhereNoWireCanEndAreReported) {
     expectFindings({{"Sensor 1 Uit Geel", "LED 5 Ingang"},
                     {"", "zoemer"},
                     {"LED 1 Ingang", "Drukknop 1"},
@@ -46,7 +44,7 @@ TEST(CheckCommand, EndsWhereNoWireCanEnd) {
                     "wire 4: unknown socket \"één\\x0A\""});
 }
 
-TEST(CheckCommand, WiresThatAreThereAlready) {
+TEST(CheckCommand, WiresThatAreThereAlreadyAreReported) {
     expectFindings({{"LED 1 Ingang", "LED 2 Ingang"},
                     {"LED 1 Ingang", "LED 3 Ingang"},
                     {"LED 2 Ingang", "LED 1 Ingang"},

@@ -2,11 +2,9 @@
 
 #include "board/AppPath.h"
 #include "cli/Program.h"
-#include "tests/support/TempFolder.h"
+#include "tests/document/Files.h"
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -29,11 +27,7 @@ inline Outcome cli(const std::vector<std::string>& arguments,
     return {code, output.str(), errors.str()};
 }
 
-inline std::string bytesOf(const std::filesystem::path& file) {
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
+/// The lines of a text, without their ends.
 inline std::vector<std::string> linesOf(const std::string& text) {
     std::istringstream stream(text);
     std::vector<std::string> lines;
@@ -47,8 +41,7 @@ class Files {
 public:
     /// Writes a file and gives its path.
     std::string Add(const std::string& name, const std::string& bytes) {
-        std::ofstream stream(folder_.Path() / PathFromUtf8(name), std::ios::binary);
-        stream << bytes;
+        putBytes(folder_.Path() / PathFromUtf8(name), bytes);
         return Path(name);
     }
 

@@ -1,15 +1,17 @@
 #include "cli/Control.h"
 
-#include "cli/Simulation.h"
-#include "tests/support/Logs.h"
+#include "tests/cli/BareSimulation.h"
 
 #include <gtest/gtest.h>
 
 #include <stdexcept>
+#include <string>
 #include <vector>
 
 namespace veltrix::cli {
 namespace {
+
+struct ControlTest : testing::Test, test::BareSimulation {};
 
 /// Does to a board what a row of a script says.
 void operate(Simulation& simulation, const std::string& name, const std::string& value) {
@@ -35,9 +37,7 @@ void expectTakes(const std::string& name, const std::vector<std::string>& good,
         EXPECT_FALSE(takes(name, value)) << name << ": " << value;
 }
 
-TEST(Control, OperatesTheBoard) {
-    test::NullLog log;
-    Simulation simulation({}, 1, log);
+TEST_F(ControlTest, OperatesTheBoard) {
     const Board& board = simulation.TheBoard();
     operate(simulation, "Sensor 1", "2");
     operate(simulation, "Sensor 2", "1");
@@ -63,9 +63,7 @@ TEST(Control, OperatesTheBoard) {
     EXPECT_TRUE(board.PushButtons[1].Value());
 }
 
-TEST(Control, ResetButtonNeedsNoValue) {
-    test::NullLog log;
-    Simulation simulation({}, 1, log);
+TEST_F(ControlTest, ResetButtonNeedsNoValue) {
     for (const char* value : {"", "0", "1", "x"}) {
         simulation.TheBoard().Display.SetValue(7);
         operate(simulation, "Pulsenteller Reset Drukknop", value);
@@ -73,7 +71,7 @@ TEST(Control, ResetButtonNeedsNoValue) {
     }
 }
 
-TEST(Control, TakesNothingElse) {
+TEST_F(ControlTest, TakesNothingElse) {
     expectTakes("Sensor 1", {"0", "1", "2"}, {"", "3", "-1", "1.0", "aan"});
     expectTakes("Sensor 2", {"0", "1", "2"}, {"", "3", "-1", "1.0", "aan"});
     expectTakes("Drukknop 1", {"0", "1"}, {"", "2", "-1", "true"});
@@ -85,12 +83,12 @@ TEST(Control, TakesNothingElse) {
                 {"", "5", "5 ", " 5", "1 2 3", "1,2", "1.5 2", "2147483648 0", "x y"});
 }
 
-TEST(Control, IsFoundByItsExactName) {
+TEST_F(ControlTest, IsFoundByItsExactName) {
     for (const char* name : {"", "sensor 1", "Sensor 3", "Sensor 1 Uit Geel", "Zoemer"})
         EXPECT_EQ(Control::Find(name), nullptr) << name;
 }
 
-TEST(Control, NamesListsThemAll) {
+TEST_F(ControlTest, NamesListsThemAll) {
     EXPECT_EQ(Control::Names(),
               "Sensor 1, Sensor 2, Drukknop 1, Drukknop 2, Comparator Regelaar, Var. Spanning "
               "Regelaar, Puls Generator Regelaar, Geluids Sensor, Pulsenteller Reset Drukknop, "

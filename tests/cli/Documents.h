@@ -1,16 +1,19 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 namespace veltrix::test {
 
+using Wires = std::vector<std::pair<std::string, std::string>>;
+
 /// A board document made byte by byte, so that it can also be wrong.
 struct Document {
-    std::vector<std::pair<std::string, std::string>> wires; ///< names in the document's code page
-    std::int32_t count = -2;                                ///< of wires; -2 for the right one
+    Wires wires;                                      ///< names in the document's code page
+    std::optional<std::int32_t> count = std::nullopt; ///< of wires, when it is not the right one
     std::int32_t counter = 0;
     std::int32_t sensor1 = 0;
     std::int32_t sensor2 = 0;
@@ -19,9 +22,6 @@ struct Document {
     std::int32_t voltage = 0;
     bool button1 = false;
     bool button2 = false;
-    std::int16_t documentType = -9510;
-    std::int16_t settingsType = 4096;
-    std::int16_t wiresType = 8192;
 
     [[nodiscard]] std::string Bytes() const {
         std::string names;
@@ -29,12 +29,12 @@ struct Document {
             names.append(from).append(1, '\0').append(to).append(1, '\0');
         std::string settings;
         const auto right = static_cast<std::int32_t>(wires.size());
-        for (const std::int32_t field : {0, count == -2 ? right : count, counter, sensor1, sensor2,
-                                         pulse, comparator, voltage})
+        for (const std::int32_t field :
+             {0, count.value_or(right), counter, sensor1, sensor2, pulse, comparator, voltage})
             settings += little(field, 4);
         for (const bool pressed : {button1, button2})
             settings += pressed ? '\xFF' : '\0';
-        return chunk(documentType, chunk(settingsType, settings) + chunk(wiresType, names));
+        return chunk(-9510, chunk(4096, settings) + chunk(8192, names));
     }
 
 private:

@@ -113,10 +113,7 @@ TEST(Examples, FolderHoldsNothingElse) {
     for (const Example& example : AllExamples())
         for (const char* extension : {".vtx", ".csv", ".expected.csv"})
             expected.insert(example.Name + extension);
-    std::set<std::string> found;
-    for (const auto& entry : std::filesystem::directory_iterator(folder))
-        found.insert(Utf8FromPath(entry.path().filename()));
-    EXPECT_EQ(found, expected);
+    EXPECT_EQ(test::namesIn(folder), expected);
 }
 
 TEST(Examples, BoardThatNobodyCouldWireIsRefused) {

@@ -13,16 +13,14 @@ using Json = nlohmann::ordered_json;
 
 TEST(InfoCommand, WritesSettingsAndWires) {
     test::Files files;
-    const test::Document document{{{"Zoemer", "Invertor Uitgang"}, {"\xE9\xE9n", "\x80"}},
-                                  -2,
-                                  7,
-                                  1,
-                                  2,
-                                  11,
-                                  12,
-                                  13,
-                                  true,
-                                  false};
+    const test::Document document{.wires = {{"Zoemer", "Invertor Uitgang"}, {"\xE9\xE9n", "\x80"}},
+                                  .counter = 7,
+                                  .sensor1 = 1,
+                                  .sensor2 = 2,
+                                  .pulse = 11,
+                                  .comparator = 12,
+                                  .voltage = 13,
+                                  .button1 = true};
     const test::Outcome outcome = test::cli({"info", files.Add("b.vtx", document.Bytes())});
     EXPECT_EQ(outcome.errors, "");
     EXPECT_EQ(outcome.code, 0);
@@ -52,7 +50,8 @@ TEST(InfoCommand, EmptyBoardHasNoWires) {
 
 TEST(InfoCommand, LevelsOutOfRangeAreShownAsTheyAre) {
     test::Files files;
-    const test::Document document{{}, -2, 0, INT32_MIN, 99, INT32_MAX, -1, 51};
+    const test::Document document{
+        .wires = {}, .sensor1 = INT32_MIN, .pulse = INT32_MAX, .comparator = -1};
     const Json settings =
         Json::parse(test::cli({"info", files.Add("b.vtx", document.Bytes())}).output)
             .at("settings");
@@ -67,7 +66,7 @@ TEST(InfoCommand, EveryByteOfANameMakesValidJson) {
     for (int byte = 1; byte < 256; ++byte)
         name += static_cast<char>(byte);
     const test::Outcome outcome =
-        test::cli({"info", files.Add("b.vtx", test::Document{{{name, name}}}.Bytes())});
+        test::cli({"info", files.Add("b.vtx", test::Document{.wires = {{name, name}}}.Bytes())});
     const Json wires = Json::parse(outcome.output).at("wires");
     EXPECT_EQ(wires.at(0).at("naam1"), wires.at(0).at("naam2"));
 }

@@ -1,7 +1,7 @@
 #include "cli/InputFile.h"
 
-#include "cli/Fault.h"
 #include "tests/cli/Cli.h"
+#include "tests/cli/Faults.h"
 
 #include <gtest/gtest.h>
 
@@ -9,12 +9,7 @@ namespace veltrix::cli {
 namespace {
 
 std::string faultOf(const std::string& path) {
-    try {
-        (void)ReadInputFile(path);
-    } catch (const Fault& fault) {
-        return fault.what();
-    }
-    return {};
+    return test::faultOf([&] { (void)ReadInputFile(path); });
 }
 
 TEST(InputFile, GivesAllBytes) {

@@ -1,7 +1,7 @@
 #include "cli/Output.h"
 
-#include "cli/Fault.h"
 #include "tests/cli/Cli.h"
+#include "tests/cli/Faults.h"
 
 #include <gtest/gtest.h>
 
@@ -18,15 +18,6 @@ std::string written(const std::function<void(Output&)>& write) {
     write(output);
     output.Close();
     return stream.str();
-}
-
-std::string faultOf(const std::function<void()>& write) {
-    try {
-        write();
-    } catch (const Fault& fault) {
-        return fault.what();
-    }
-    return {};
 }
 
 TEST(Output, WritesNumbers) {
@@ -80,14 +71,15 @@ TEST(Output, ReplacesTheContentOfAFile) {
 TEST(Output, WhatCannotBeWrittenIsAFault) {
     const test::Files files;
     const std::string missing = files.Path("weg/rijen.csv");
-    EXPECT_EQ(faultOf([&] { Output output(missing); }), missing + ": No such file or directory");
-    EXPECT_EQ(faultOf([] {
+    EXPECT_EQ(test::faultOf([&] { Output output(missing); }),
+              missing + ": No such file or directory");
+    EXPECT_EQ(test::faultOf([] {
                   Output output("/dev/full");
                   output.Put("a few bytes");
                   output.Close();
               }),
               "/dev/full: No space left on device");
-    EXPECT_EQ(faultOf([] {
+    EXPECT_EQ(test::faultOf([] {
                   Output output("/dev/full");
                   output.Put(std::string(1000000, 'x'));
               }),
@@ -98,7 +90,7 @@ TEST(Output, StreamThatFailsIsAFault) {
     std::ostringstream stream;
     stream.setstate(std::ios::badbit);
     Output output(stream, "standard output");
-    EXPECT_EQ(faultOf([&] { output.Close(); }), "standard output: cannot be written");
+    EXPECT_EQ(test::faultOf([&] { output.Close(); }), "standard output: cannot be written");
 }
 
 } // namespace

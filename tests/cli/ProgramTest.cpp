@@ -120,7 +120,7 @@ TEST(Program, VersionIsTold) {
 TEST(BuiltProgram, GivesRowsOnItsStandardOutputAndItsExitCode) {
     test::Files files;
     const std::string board =
-        files.Add("één.vtx", test::Document{{{"Zoemer", "Invertor Uitgang"}}}.Bytes());
+        files.Add("één.vtx", test::Document{.wires = {{"Zoemer", "Invertor Uitgang"}}}.Bytes());
     const test::Outcome outcome = test::runVeltrixCli({"run", board, "--ticks", "3"});
     EXPECT_EQ(outcome.code, 0);
     EXPECT_EQ(outcome.errors, "");
@@ -137,7 +137,7 @@ TEST(BuiltProgram, TellsFaultsOnItsStandardError) {
 
 TEST(BuiltProgram, CheckEndsWithOneWhenThereIsSomethingToReport) {
     test::Files files;
-    const std::string board = files.Add("b.vtx", test::Document{{{"a", "b"}}}.Bytes());
+    const std::string board = files.Add("b.vtx", test::Document{.wires = {{"a", "b"}}}.Bytes());
     EXPECT_EQ(test::runVeltrixCli({"check", board}).code, 1);
 }
 

@@ -1,7 +1,6 @@
 #include "cli/Readings.h"
 
-#include "cli/Simulation.h"
-#include "tests/support/Logs.h"
+#include "tests/cli/BareSimulation.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +10,7 @@
 namespace veltrix::cli {
 namespace {
 
-struct ReadingsOf : testing::Test {
+struct ReadingsTest : testing::Test, test::BareSimulation {
     Cell cell(const std::string& name) const {
         const auto& places = readings.Places();
         const auto found =
@@ -22,12 +21,10 @@ struct ReadingsOf : testing::Test {
         return readings.Cells()[static_cast<std::size_t>(found - places.begin())];
     }
 
-    test::NullLog log;
-    Simulation simulation{{}, 1, log};
     Readings readings{simulation};
 };
 
-TEST_F(ReadingsOf, PlacesAreTheSocketsOfTheCatalogueAndWhatABoardShows) {
+TEST_F(ReadingsTest, PlacesAreTheSocketsOfTheCatalogueAndWhatABoardShows) {
     std::vector<std::string> expected;
     const clsSnaps snaps;
     for (std::int32_t i = 1; i <= snaps.GetSnapCount(); ++i)
@@ -43,13 +40,13 @@ TEST_F(ReadingsOf, PlacesAreTheSocketsOfTheCatalogueAndWhatABoardShows) {
     EXPECT_EQ(found, expected);
 }
 
-TEST_F(ReadingsOf, NothingIsKnownBeforeTheFirstReading) {
+TEST_F(ReadingsTest, NothingIsKnownBeforeTheFirstReading) {
     ASSERT_EQ(readings.Cells().size(), readings.Places().size());
     for (const Cell& cell : readings.Cells())
         EXPECT_EQ(cell, Cell());
 }
 
-TEST_F(ReadingsOf, SocketThatTheRunDidNotReachIsUnknown) {
+TEST_F(ReadingsTest, SocketThatTheRunDidNotReachIsUnknown) {
     simulation.TheBoard().AddLine("Drukknop 1 Uit Geel", "LED 1 Ingang");
     simulation.RunTick();
     readings.Read();
@@ -60,7 +57,7 @@ TEST_F(ReadingsOf, SocketThatTheRunDidNotReachIsUnknown) {
     EXPECT_EQ(cell("Invertor Uitgang"), (Cell{50, true}));
 }
 
-TEST_F(ReadingsOf, ShowsLampsBuzzerAndCounter) {
+TEST_F(ReadingsTest, ShowsLampsBuzzerAndCounter) {
     simulation.TheBoard().AddLine("Invertor Uitgang", "LED 3 Ingang");
     simulation.TheBoard().AddLine("Invertor Uitgang", "Zoemer");
     simulation.TheBoard().Display.SetValue(7);
@@ -72,7 +69,7 @@ TEST_F(ReadingsOf, ShowsLampsBuzzerAndCounter) {
     EXPECT_EQ(cell("Teller"), (Cell{7, true}));
 }
 
-TEST_F(ReadingsOf, TellsWhetherACellChanged) {
+TEST_F(ReadingsTest, TellsWhetherACellChanged) {
     simulation.RunTick();
     EXPECT_TRUE(readings.Read());
     simulation.RunTick();

@@ -15,8 +15,8 @@ namespace {
 using testing::HasSubstr;
 using testing::StartsWith;
 
-struct RenderCommandOf : testing::Test {
-    RenderCommandOf() { test::writeBoardPictures(pictures.Path()); }
+struct RenderCommandTest : testing::Test {
+    RenderCommandTest() { test::writeBoardPictures(pictures.Path()); }
 
     test::Outcome render(const std::vector<std::string>& options) {
         std::vector<std::string> arguments{"render", board, "--out", picture};
@@ -31,12 +31,12 @@ struct RenderCommandOf : testing::Test {
 
     test::TempFolder pictures;
     test::Files files;
-    std::string board =
-        files.Add("één.vtx", test::Document{{{"Invertor Uitgang", "LED 1 Ingang"}}}.Bytes());
+    std::string board = files.Add(
+        "één.vtx", test::Document{.wires = {{"Invertor Uitgang", "LED 1 Ingang"}}}.Bytes());
     std::string picture = files.Path("één.png");
 };
 
-TEST_F(RenderCommandOf, WritesTheBoardAsTheWindowShowsIt) {
+TEST_F(RenderCommandTest, WritesTheBoardAsTheWindowShowsIt) {
     const test::Outcome outcome = render({});
     EXPECT_EQ(outcome.code, 0);
     EXPECT_EQ(outcome.output + outcome.errors, "");
@@ -47,14 +47,14 @@ TEST_F(RenderCommandOf, WritesTheBoardAsTheWindowShowsIt) {
     EXPECT_EQ(led1(), test::boardColours::RedLight);
 }
 
-TEST_F(RenderCommandOf, RunsTheTicksFirst) {
+TEST_F(RenderCommandTest, RunsTheTicksFirst) {
     EXPECT_EQ(render({"--ticks", "0"}).code, 0);
     EXPECT_EQ(led1(), test::boardColours::Board);
     EXPECT_EQ(render({"--ticks", "1"}).code, 0);
     EXPECT_EQ(led1(), test::boardColours::RedLight);
 }
 
-TEST_F(RenderCommandOf, ScalesEveryPixelOfTheBoard) {
+TEST_F(RenderCommandTest, ScalesEveryPixelOfTheBoard) {
     for (const int scale : {1, 2, 3}) {
         EXPECT_EQ(render({"--scale", std::to_string(scale)}).code, 0);
         const Picture found = ReadPicture(PathFromUtf8(picture));
@@ -64,7 +64,7 @@ TEST_F(RenderCommandOf, ScalesEveryPixelOfTheBoard) {
     }
 }
 
-TEST_F(RenderCommandOf, MissingPictureIsToldButNoFailure) {
+TEST_F(RenderCommandTest, MissingPictureIsToldButNoFailure) {
     std::filesystem::remove(pictures.Path() / "images2" / "Bord.bmp");
     const test::Outcome outcome = render({});
     EXPECT_EQ(outcome.code, 0);
@@ -74,7 +74,7 @@ TEST_F(RenderCommandOf, MissingPictureIsToldButNoFailure) {
     EXPECT_EQ(led1(), test::boardColours::RedLight);
 }
 
-TEST_F(RenderCommandOf, FaultyBoardIsToldBeforePicturesAreMissed) {
+TEST_F(RenderCommandTest, FaultyBoardIsToldBeforePicturesAreMissed) {
     board = files.Add("leeg.vtx", "");
     const test::Outcome outcome =
         test::cli({"render", board, "--out", picture}, "no-pictures-here");
@@ -82,7 +82,7 @@ TEST_F(RenderCommandOf, FaultyBoardIsToldBeforePicturesAreMissed) {
     EXPECT_EQ(outcome.errors, "veltrix-cli: " + board + ": the file is empty\n");
 }
 
-TEST_F(RenderCommandOf, PictureThatCannotBeWrittenIsAFault) {
+TEST_F(RenderCommandTest, PictureThatCannotBeWrittenIsAFault) {
     for (const std::string& path : {files.Path("weg/b.png"), std::string("/dev/full")}) {
         picture = path;
         const test::Outcome outcome = render({"--ticks", "1"});
@@ -91,11 +91,11 @@ TEST_F(RenderCommandOf, PictureThatCannotBeWrittenIsAFault) {
     }
 }
 
-TEST_F(RenderCommandOf, FailedTicksAreToldAndTheBoardIsDrawn) {
-    board = files.Add(
-        "ver.vtx",
-        test::Document{{{"Var. Spanning Uit Geel", "LED 1 Ingang"}}, -2, 0, 0, 0, 0, 0, INT32_MAX}
-            .Bytes());
+TEST_F(RenderCommandTest, FailedTicksAreToldAndTheBoardIsDrawn) {
+    board =
+        files.Add("ver.vtx", test::Document{.wires = {{"Var. Spanning Uit Geel", "LED 1 Ingang"}},
+                                            .voltage = INT32_MAX}
+                                 .Bytes());
     const test::Outcome outcome = render({});
     EXPECT_EQ(outcome.code, 0);
     EXPECT_THAT(outcome.errors, StartsWith("veltrix-cli: " + board + ": tick 1: "));

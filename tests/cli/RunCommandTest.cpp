@@ -33,7 +33,7 @@ Strings column(const std::string& csv, const std::string& name) {
     return cells;
 }
 
-struct RunCommandOf : testing::Test {
+struct RunCommandTest : testing::Test {
     test::Outcome run(const Strings& options) {
         Strings arguments{"run", board};
         arguments.insert(arguments.end(), options.begin(), options.end());
@@ -54,17 +54,18 @@ struct RunCommandOf : testing::Test {
 
     test::Files files;
     std::string board = files.Add(
-        "b.vtx", test::Document{{{"Drukknop 1 Uit Geel", "LED 1 Ingang"}}, -2, 4}.Bytes());
+        "b.vtx",
+        test::Document{.wires = {{"Drukknop 1 Uit Geel", "LED 1 Ingang"}}, .counter = 4}.Bytes());
 };
 
-TEST_F(RunCommandOf, RowATickForAHundredTicks) {
+TEST_F(RunCommandTest, RowATickForAHundredTicks) {
     const Strings ticks = column(rows({}), "tick");
     ASSERT_EQ(ticks.size(), 100U);
     for (std::size_t i = 0; i < ticks.size(); ++i)
         EXPECT_EQ(ticks[i], std::to_string(i + 1));
 }
 
-TEST_F(RunCommandOf, RowIsReadAfterItsTick) {
+TEST_F(RunCommandTest, RowIsReadAfterItsTick) {
     const std::string text =
         rows({"--ticks", "4", "--script", script("2,Drukknop 1,1\n4,Drukknop 1,0\n")});
     EXPECT_THAT(column(text, "Drukknop 1 Uit Geel"), ElementsAre("0", "50", "50", "0"));
@@ -73,27 +74,27 @@ TEST_F(RunCommandOf, RowIsReadAfterItsTick) {
     EXPECT_THAT(column(text, "Teller"), ElementsAre("4", "4", "4", "4"));
 }
 
-TEST_F(RunCommandOf, NoTicksMakeNoRows) {
+TEST_F(RunCommandTest, NoTicksMakeNoRows) {
     EXPECT_EQ(test::linesOf(rows({"--ticks", "0"})).size(), 1U);
     EXPECT_EQ(test::linesOf(rows({"--ticks", "0", "--rows", "last"})).size(), 1U);
     EXPECT_EQ(nlohmann::json::parse(rows({"--ticks", "0", "--format", "json"})),
               nlohmann::json::array());
 }
 
-TEST_F(RunCommandOf, ChangesAreTheFirstTickAndThoseThatDiffer) {
+TEST_F(RunCommandTest, ChangesAreTheFirstTickAndThoseThatDiffer) {
     const std::string path = script("3,Drukknop 1,1\n5,Drukknop 1,1\n6,Drukknop 1,0\n");
     EXPECT_THAT(column(rows({"--ticks", "9", "--rows", "changes", "--script", path}), "tick"),
                 ElementsAre("1", "3", "6"));
 }
 
-TEST_F(RunCommandOf, LastIsTheLastTick) {
+TEST_F(RunCommandTest, LastIsTheLastTick) {
     const std::string path = script("3,Drukknop 1,1\n");
     const std::string text = rows({"--ticks", "9", "--rows", "last", "--script", path});
     EXPECT_THAT(column(text, "tick"), ElementsAre("9"));
     EXPECT_THAT(column(text, "LED 1"), ElementsAre("1"));
 }
 
-TEST_F(RunCommandOf, FormatsTellTheSame) {
+TEST_F(RunCommandTest, FormatsTellTheSame) {
     const std::string path = script("2,Drukknop 1,1\n");
     const std::string csv = rows({"--ticks", "3", "--script", path});
     const auto json =
@@ -113,43 +114,40 @@ TEST_F(RunCommandOf, FormatsTellTheSame) {
     EXPECT_THAT(vcd, HasSubstr("\n#2\nb00000000000000000000000000110010 "));
 }
 
-TEST_F(RunCommandOf, RowsGoIntoAFile) {
+TEST_F(RunCommandTest, RowsGoIntoAFile) {
     const std::string path = files.Path("één.csv");
     const std::string expected = rows({"--ticks", "3"});
     EXPECT_EQ(rows({"--ticks", "3", "--out", path}), "");
     EXPECT_EQ(test::bytesOf(PathFromUtf8(path)), expected);
 }
 
-TEST_F(RunCommandOf, SavesTheBoardAfterTheRun) {
+TEST_F(RunCommandTest, SavesTheBoardAfterTheRun) {
     const std::string saved = files.Path("één.vtx");
     rows({"--ticks", "5", "--save", saved, "--script",
           script("1,Sensor 2,1\n2,Pulsenteller Reset Drukknop,\n5,Comparator Regelaar,33\n"
                  "6,Var. Spanning Regelaar,44\n5,Drukknop 2,1\n")});
     EXPECT_EQ(test::bytesOf(PathFromUtf8(saved)),
-              (test::Document{
-                  {{"Drukknop 1 Uit Geel", "LED 1 Ingang"}}, -2, 0, 0, 1, 0, 33, 0, false, true}
+              (test::Document{.wires = {{"Drukknop 1 Uit Geel", "LED 1 Ingang"}},
+                              .sensor2 = 1,
+                              .comparator = 33,
+                              .button2 = true}
                    .Bytes()));
 }
 
-TEST_F(RunCommandOf, BoardMayBeSavedOverItself) {
+TEST_F(RunCommandTest, BoardMayBeSavedOverItself) {
     const std::string before = test::bytesOf(board);
     rows({"--save", board});
     EXPECT_EQ(test::bytesOf(board), before);
 }
 
-TEST_F(RunCommandOf, FailedTicksAreToldOnceAndGetTheirRow) {
-    board = files.Add("ver.vtx", test::Document{{{"Drukknop 1 Uit Geel", "LED 1 Ingang"},
-                                                 {"Var. Spanning Uit Geel", "LED 2 Ingang"},
-                                                 {"Invertor Uitgang", "LED 3 Ingang"}},
-                                                -2,
-                                                0,
-                                                0,
-                                                0,
-                                                0,
-                                                0,
-                                                INT32_MIN,
-                                                true}
-                                     .Bytes());
+TEST_F(RunCommandTest, FailedTicksAreToldOnceAndGetTheirRow) {
+    board =
+        files.Add("ver.vtx", test::Document{.wires = {{"Drukknop 1 Uit Geel", "LED 1 Ingang"},
+                                                      {"Var. Spanning Uit Geel", "LED 2 Ingang"},
+                                                      {"Invertor Uitgang", "LED 3 Ingang"}},
+                                            .voltage = INT32_MIN,
+                                            .button1 = true}
+                                 .Bytes());
     const test::Outcome outcome =
         run({"--ticks", "3", "--script", script("3,Var. Spanning Regelaar,50\n")});
     EXPECT_EQ(outcome.code, 0);
@@ -163,7 +161,7 @@ TEST_F(RunCommandOf, FailedTicksAreToldOnceAndGetTheirRow) {
     EXPECT_THAT(column(outcome.output, "LED 1"), ElementsAre("0", "1", "1"));
 }
 
-TEST_F(RunCommandOf, FaultyInputLeavesEarlierResultsAlone) {
+TEST_F(RunCommandTest, FaultyInputLeavesEarlierResultsAlone) {
     const std::string out = files.Add("rijen.csv", "earlier");
     EXPECT_EQ(run({"--out", out, "--script", files.Path("weg.csv")}).code, 2);
     board = files.Add("leeg.vtx", "");
@@ -171,7 +169,7 @@ TEST_F(RunCommandOf, FaultyInputLeavesEarlierResultsAlone) {
     EXPECT_EQ(test::bytesOf(out), "earlier");
 }
 
-TEST_F(RunCommandOf, ResultsThatCannotBeWrittenAreFaults) {
+TEST_F(RunCommandTest, ResultsThatCannotBeWrittenAreFaults) {
     const std::string missing = files.Path("weg/rijen");
     const auto fault = [](const std::string& path, const std::string& reason) {
         return "veltrix-cli: " + path + ": " + reason + "\n";

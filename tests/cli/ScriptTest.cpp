@@ -1,14 +1,15 @@
 #include "cli/Script.h"
 
-#include "cli/Fault.h"
-#include "cli/Simulation.h"
+#include "tests/cli/BareSimulation.h"
 #include "tests/cli/Cli.h"
-#include "tests/support/Logs.h"
+#include "tests/cli/Faults.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
+#include <vector>
 
 namespace veltrix::cli {
 namespace {
@@ -21,24 +22,18 @@ const std::string header = "tick,control,value\n";
 
 /// The sound level after each tick of a script: one control tells when rows are done.
 std::vector<std::int32_t> levels(const std::string& text, std::int64_t ticks) {
-    test::NullLog log;
-    Simulation simulation({}, 1, log);
+    test::BareSimulation bare;
     Script script = Script::Parse(text, "s.csv");
     std::vector<std::int32_t> found;
     for (std::int64_t tick = 1; tick <= ticks; ++tick) {
-        script.Before(tick, simulation);
-        found.push_back(simulation.Around().SoundLevel);
+        script.Before(tick, bare.simulation);
+        found.push_back(bare.simulation.Around().SoundLevel);
     }
     return found;
 }
 
 std::string faultOf(const std::string& text) {
-    try {
-        (void)Script::Parse(text, "s.csv");
-    } catch (const Fault& fault) {
-        return fault.what();
-    }
-    return {};
+    return test::faultOf([&] { (void)Script::Parse(text, "s.csv"); });
 }
 
 using Levels = std::vector<std::int32_t>;
@@ -136,12 +131,8 @@ TEST(Script, QuoteInTheWrongPlaceIsAFault) {
 TEST(Script, IsReadFromAFile) {
     test::Files files;
     const std::string path = files.Add("één.csv", header + "1,Sensor 1,9\n");
-    try {
-        (void)Script::Read(path);
-        FAIL();
-    } catch (const Fault& fault) {
-        EXPECT_THAT(fault.what(), StartsWith(path + ": line 2: \"9\""));
-    }
+    EXPECT_THAT(test::faultOf([&] { (void)Script::Read(path); }),
+                StartsWith(path + ": line 2: \"9\""));
     EXPECT_THROW((void)Script::Read(files.Path("weg.csv")), Fault);
 }
 

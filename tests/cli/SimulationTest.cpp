@@ -1,5 +1,6 @@
 #include "cli/Simulation.h"
 
+#include "tests/cli/BareSimulation.h"
 #include "tests/support/Logs.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/TempFolder.h"
@@ -11,9 +12,9 @@
 namespace veltrix::cli {
 namespace {
 
-TEST(Simulation, ClockReadsZeroBeforeTheFirstTickAndTenMillisecondsMoreAtEach) {
-    test::NullLog log;
-    Simulation simulation({}, 1, log);
+struct SimulationTest : testing::Test, test::BareSimulation {};
+
+TEST_F(SimulationTest, ClockReadsZeroBeforeTheFirstTickAndTenMillisecondsMoreAtEach) {
     EXPECT_EQ(simulation.Ticks(), 0);
     EXPECT_EQ(simulation.Around().Seconds, 0.0F);
     for (int tick = 1; tick <= 1234; ++tick) {
@@ -24,9 +25,7 @@ TEST(Simulation, ClockReadsZeroBeforeTheFirstTickAndTenMillisecondsMoreAtEach) {
     }
 }
 
-TEST(Simulation, TicksTheBoard) {
-    test::NullLog log;
-    Simulation simulation({}, 1, log);
+TEST_F(SimulationTest, TicksTheBoard) {
     simulation.TheBoard().AddLine("Drukknop 1 Uit Geel", "LED 2 Ingang");
     simulation.TheBoard().AddLine("Zoemer", "Drukknop 1 Uit Geel");
     simulation.TheBoard().PushButtons[0].SetValue(true);
@@ -38,9 +37,7 @@ TEST(Simulation, TicksTheBoard) {
     EXPECT_EQ(simulation.Graph().Level("LED 2 Ingang"), 50);
 }
 
-TEST(Simulation, SurroundingsReachTheBoard) {
-    test::NullLog log;
-    Simulation simulation({}, 1, log);
+TEST_F(SimulationTest, SurroundingsReachTheBoard) {
     simulation.TheBoard().Sensors[0].SetValue(clsSensor::Pointer);
     simulation.Around().PointerAt = {44 + 40, 49};
     simulation.Around().SoundLevel = 17;
@@ -49,9 +46,7 @@ TEST(Simulation, SurroundingsReachTheBoard) {
     EXPECT_EQ(simulation.Graph().Level("Geluids Sensor Uit Geel"), 17);
 }
 
-TEST(Simulation, RunsOnAfterATickThatFailed) {
-    test::NullLog log;
-    Simulation simulation({}, 1, log);
+TEST_F(SimulationTest, RunsOnAfterATickThatFailed) {
     simulation.TheBoard().AddLine("Var. Spanning Uit Geel", "LED 1 Ingang");
     simulation.TheBoard().Knobs.VariableVoltage = INT32_MAX;
     EXPECT_THROW(simulation.RunTick(), std::out_of_range);
@@ -62,30 +57,29 @@ TEST(Simulation, RunsOnAfterATickThatFailed) {
     EXPECT_TRUE(simulation.TheBoard().LEDs[0].Value());
 }
 
-TEST(Simulation, WithoutAFolderNoPictureIsMissed) {
-    test::KeptLog log;
-    Simulation simulation({}, 1, log);
-    simulation.TheBoard().AddLine("Sensor 1 Uit Geel", "LED 1 Ingang");
-    simulation.RunTick();
-    EXPECT_TRUE(log.Lines.empty());
-    for (const std::uint32_t pixel : simulation.Frame().pixels)
+TEST_F(SimulationTest, WithoutAFolderNoPictureIsMissed) {
+    test::KeptLog kept;
+    Simulation bare({}, 1, kept);
+    bare.TheBoard().AddLine("Sensor 1 Uit Geel", "LED 1 Ingang");
+    bare.RunTick();
+    EXPECT_TRUE(kept.Lines.empty());
+    for (const std::uint32_t pixel : bare.Frame().pixels)
         ASSERT_EQ(pixel, 0xFF000000U);
 }
 
-TEST(Simulation, FrameShowsTheBoardAsItIs) {
+TEST_F(SimulationTest, FrameShowsTheBoardAsItIs) {
     const test::TempFolder folder;
     test::writeBoardPictures(folder.Path());
-    test::KeptLog log;
-    Simulation simulation(folder.Path(), 1, log);
-    const auto pixelOfLed1 = [&] { return simulation.Frame().Row(27 + 16)[373 + 16]; };
+    test::KeptLog kept;
+    Simulation pictured(folder.Path(), 1, kept);
+    const auto pixelOfLed1 = [&] { return pictured.Frame().Row(27 + 16)[373 + 16]; };
     EXPECT_EQ(pixelOfLed1(), test::boardColours::Board);
-    simulation.TheBoard().LEDs[0].SetValue(true);
+    pictured.TheBoard().LEDs[0].SetValue(true);
     EXPECT_EQ(pixelOfLed1(), test::boardColours::RedLight);
-    EXPECT_TRUE(log.Lines.empty());
+    EXPECT_TRUE(kept.Lines.empty());
 }
 
-TEST(Simulation, ImpossibleScaleIsRefused) {
-    test::NullLog log;
+TEST_F(SimulationTest, ImpossibleScaleIsRefused) {
     EXPECT_THROW(Simulation({}, 0, log), std::runtime_error);
 }
 

@@ -1,7 +1,6 @@
 #include "cli/TickErrors.h"
 
-#include "cli/Simulation.h"
-#include "tests/support/Logs.h"
+#include "tests/cli/BareSimulation.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +10,7 @@
 namespace veltrix::cli {
 namespace {
 
-struct TickErrorsOf : testing::Test {
+struct TickErrorsTest : testing::Test, test::BareSimulation {
     void runAt(std::int32_t level) {
         simulation.TheBoard().Knobs.VariableVoltage = level;
         ticks.Run(simulation);
@@ -21,20 +20,18 @@ struct TickErrorsOf : testing::Test {
         simulation.TheBoard().AddLine("Var. Spanning Uit Geel", "LED 1 Ingang");
     }
 
-    test::NullLog log;
-    Simulation simulation{{}, 1, log};
     std::ostringstream errors;
     TickErrors ticks{"bord.vtx", errors};
 };
 
-TEST_F(TickErrorsOf, TicksThatSucceedSayNothing) {
+TEST_F(TickErrorsTest, TicksThatSucceedSayNothing) {
     runAt(0);
     runAt(50);
     EXPECT_EQ(simulation.Ticks(), 2);
     EXPECT_EQ(errors.str(), "");
 }
 
-TEST_F(TickErrorsOf, FirstOfARowOfEqualErrorsIsTold) {
+TEST_F(TickErrorsTest, FirstOfARowOfEqualErrorsIsTold) {
     simulation.TheBoard().AddLine("Var. Spanning Uit Geel", "Invertor Ingang");
     runAt(50);
     // A wire fails once for a colour number; when both have, the invertor fails in every tick.
@@ -46,7 +43,7 @@ TEST_F(TickErrorsOf, FirstOfARowOfEqualErrorsIsTold) {
               "veltrix-cli: bord.vtx: tick 4: a whole number left the 32-bit range\n");
 }
 
-TEST_F(TickErrorsOf, AnotherErrorIsToldToo) {
+TEST_F(TickErrorsTest, AnotherErrorIsToldToo) {
     runAt(1000);
     runAt(-1000);
     runAt(1000);
@@ -56,7 +53,7 @@ TEST_F(TickErrorsOf, AnotherErrorIsToldToo) {
               "veltrix-cli: bord.vtx: tick 3: a wire cannot have the colour number -132\n");
 }
 
-TEST_F(TickErrorsOf, TicksThatSucceedInBetweenDoNotMakeTheErrorNew) {
+TEST_F(TickErrorsTest, TicksThatSucceedInBetweenDoNotMakeTheErrorNew) {
     for (int i = 0; i < 5; ++i) {
         runAt(1000);
         runAt(0);

@@ -137,7 +137,7 @@ protected:
 
     /// A document whose counter's reading is no digit: reading it ends there.
     std::string makeDamagedDocument(const std::string& name) {
-        const std::string document = makeDocument(name);
+        std::string document = makeDocument(name);
         putBytes(PathFromUtf8(document), with(bytesOf(PathFromUtf8(document)), field::Counter, 11));
         return document;
     }

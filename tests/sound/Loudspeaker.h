@@ -15,8 +15,10 @@
 
 namespace veltrix::test {
 
+/// Of everything that is played and recorded here.
 inline constexpr int samplesPerSecond = 44100;
 
+/// The arguments by which the server's tools play to or record from a device without a file's head.
 inline QStringList rawMono(const QString& device) {
     return {"-d",
             device,
@@ -83,8 +85,7 @@ public:
 
     /// How many samples there are by now.
     [[nodiscard]] std::size_t Length() {
-        const QByteArray bytes = recorder_.readAllStandardOutput();
-        bytes_ += bytes;
+        bytes_ += recorder_.readAllStandardOutput();
         return static_cast<std::size_t>(bytes_.size()) / sizeof(std::int16_t);
     }
 

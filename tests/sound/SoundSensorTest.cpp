@@ -10,56 +10,50 @@ using test::RealSound;
 using test::Tone;
 using test::waitUntil;
 
-using SoundSensorOn = test::SoundTest;
+using SoundSensorTest = test::SoundTest;
 
-TEST_F(SoundSensorOn, AToneMovesTheLevelUpAndItsEndDown) {
-    plugIn({"Mic"});
-    RealSound real;
-    ASSERT_TRUE(real.Hears(1));
-    EXPECT_EQ(real.wi.GetVolume(), 0);
+TEST_F(SoundSensorTest, AToneMovesTheLevelUpAndItsEndDown) {
+    const auto real = hearing({"Mic"});
+    EXPECT_EQ(real->wi.GetVolume(), 0);
     {
         const Tone tone("Mic");
-        EXPECT_TRUE(real.LevelBecomes(50));
+        EXPECT_TRUE(real->LevelBecomes(50));
         // The loudest so far is full scale: a steady tone stays there, but for the buffers that
         // its swings do not fill to the last sample.
-        EXPECT_TRUE(waitUntil([&] { return real.wi.GetWaveVolume(1) > 0.9F; }));
+        EXPECT_TRUE(waitUntil([&] { return real->wi.GetWaveVolume(1) > 0.9F; }));
     }
-    EXPECT_TRUE(real.LevelBecomes(0));
+    EXPECT_TRUE(real->LevelBecomes(0));
     const Tone quiet("Mic", 0.25);
     EXPECT_TRUE(waitUntil([&] {
-        const std::int32_t half = real.wi.GetVolume();
+        const std::int32_t half = real->wi.GetVolume();
         return half > 20 && half < 30;
     }));
-    EXPECT_TRUE(real.log.Lines.empty());
+    EXPECT_TRUE(real->log.Lines.empty());
 }
 
-TEST_F(SoundSensorOn, OnlyTheFirstInputMovesIt) {
-    plugIn({"Mic", "Webcam"});
-    RealSound real;
-    ASSERT_TRUE(real.Hears(2));
+TEST_F(SoundSensorTest, OnlyTheFirstInputMovesIt) {
+    const auto real = hearing({"Mic", "Webcam"});
     const Tone tone("Webcam");
     bool moved = false;
     EXPECT_TRUE(waitUntil([&] {
-        moved = moved || real.wi.GetVolume() != 0;
-        return real.wi.GetWaveVolume(2) > 1000;
+        moved = moved || real->wi.GetVolume() != 0;
+        return real->wi.GetWaveVolume(2) > 1000;
     }));
     EXPECT_FALSE(moved);
-    EXPECT_EQ(real.wi.GetWaveVolume(1), 0);
+    EXPECT_EQ(real->wi.GetWaveVolume(1), 0);
 }
 
-TEST_F(SoundSensorOn, InputsAreListedByName) {
-    plugIn({"Mic", "Webcam"});
-    RealSound real;
-    ASSERT_TRUE(real.Hears(2));
-    EXPECT_EQ(real.wi.GetWaveName(1), "Mic");
-    EXPECT_EQ(real.wi.GetWaveName(2), "Webcam");
-    EXPECT_TRUE(real.wi.GetWaveInValid(1));
-    EXPECT_TRUE(real.wi.GetWaveInValid(2));
-    EXPECT_FALSE(real.wi.GetWaveInValid(3));
+TEST_F(SoundSensorTest, InputsAreListedByName) {
+    const auto real = hearing({"Mic", "Webcam"});
+    EXPECT_EQ(real->wi.GetWaveName(1), "Mic");
+    EXPECT_EQ(real->wi.GetWaveName(2), "Webcam");
+    EXPECT_TRUE(real->wi.GetWaveInValid(1));
+    EXPECT_TRUE(real->wi.GetWaveInValid(2));
+    EXPECT_FALSE(real->wi.GetWaveInValid(3));
 }
 
-TEST_F(SoundSensorOn, OfTwentyInputsFiveAreHeard) {
-    plugIn({"Mic"});
+TEST_F(SoundSensorTest, OfTwentyInputsFiveAreHeard) {
+    server->AddInput("Mic");
     for (int i = 2; i <= 20; ++i)
         server->AddInput("Mic" + QString::number(i), "Mic");
     RealSound real;
@@ -71,29 +65,27 @@ TEST_F(SoundSensorOn, OfTwentyInputsFiveAreHeard) {
     EXPECT_TRUE(real.log.Lines.empty());
 }
 
-TEST_F(SoundSensorOn, AnInputThatVanishesIsToldOnceAndComesBack) {
-    plugIn({"Mic", "Webcam"});
-    RealSound real;
-    ASSERT_TRUE(real.Hears(2));
+TEST_F(SoundSensorTest, AnInputThatVanishesIsToldOnceAndComesBack) {
+    const auto real = hearing({"Mic", "Webcam"});
     {
         const Tone tone("Mic");
-        EXPECT_TRUE(real.LevelBecomes(50));
+        EXPECT_TRUE(real->LevelBecomes(50));
         const Tone other("Webcam");
-        EXPECT_TRUE(waitUntil([&] { return real.wi.GetWaveVolume(2) > 0; }));
+        EXPECT_TRUE(waitUntil([&] { return real->wi.GetWaveVolume(2) > 0; }));
         server->RemoveInput("Mic");
-        EXPECT_TRUE(real.LevelBecomes(0));
-        EXPECT_TRUE(waitUntil([&] { return !real.wi.GetWaveInValid(1); }));
-        EXPECT_GT(real.wi.GetWaveVolume(2), 0) << "the other one is still heard";
+        EXPECT_TRUE(real->LevelBecomes(0));
+        EXPECT_TRUE(waitUntil([&] { return !real->wi.GetWaveInValid(1); }));
+        EXPECT_GT(real->wi.GetWaveVolume(2), 0) << "the other one is still heard";
     }
-    EXPECT_EQ(real.wi.GetUsedCount(), 2);
-    EXPECT_EQ(real.wi.GetWaveName(1), "Mic") << "an input that is away keeps its place";
+    EXPECT_EQ(real->wi.GetUsedCount(), 2);
+    EXPECT_EQ(real->wi.GetWaveName(1), "Mic") << "an input that is away keeps its place";
     server->AddInput("Mic");
-    EXPECT_TRUE(waitUntil([&] { return real.wi.GetWaveInValid(1); }));
+    EXPECT_TRUE(waitUntil([&] { return real->wi.GetWaveInValid(1); }));
     const Tone tone("Mic");
     // Starting and stopping overshoot the tone by a few percent, and the scale never shrinks.
-    EXPECT_TRUE(waitUntil([&] { return real.wi.GetVolume() > 40; })) << real.wi.GetVolume();
-    EXPECT_EQ(real.Lines("Mic"), 1);
-    EXPECT_EQ(real.Lines("Webcam"), 0);
+    EXPECT_TRUE(waitUntil([&] { return real->wi.GetVolume() > 40; })) << real->wi.GetVolume();
+    EXPECT_EQ(real->Lines("Mic"), 1);
+    EXPECT_EQ(real->Lines("Webcam"), 0);
 }
 
 /// Opening an input that the server refuses does not come back. The program is then left without
@@ -121,29 +113,27 @@ TEST_F(SoundSensorOn, AnInputThatVanishesIsToldOnceAndComesBack) {
     std::_Exit(testing::Test::HasFailure() ? 1 : 0);
 }
 
-TEST_F(SoundSensorOn, AnInputThatCannotBeOpenedSpoilsNothing) {
+TEST_F(SoundSensorTest, AnInputThatCannotBeOpenedSpoilsNothing) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_EXIT(hearBesideAnInputThatCannotBeOpened(server), testing::ExitedWithCode(0), "");
 }
 
-TEST_F(SoundSensorOn, AServerThatIsStartedAnewIsHeardAgain) {
-    plugIn({"Mic"});
-    RealSound real;
-    ASSERT_TRUE(real.Hears(1));
+TEST_F(SoundSensorTest, AServerThatIsStartedAnewIsHeardAgain) {
+    const auto real = hearing({"Mic"});
     {
         const Tone tone("Mic");
-        EXPECT_TRUE(real.LevelBecomes(50));
+        EXPECT_TRUE(real->LevelBecomes(50));
     }
     server->Restart();
     server->AddInput("Mic");
     const Tone tone("Mic");
-    EXPECT_TRUE(waitUntil([&] { return real.wi.GetVolume() == 0; }));
-    EXPECT_TRUE(real.LevelBecomes(50));
-    EXPECT_LE(real.Lines("Mic"), 1);
+    EXPECT_TRUE(waitUntil([&] { return real->wi.GetVolume() == 0; }));
+    EXPECT_TRUE(real->LevelBecomes(50));
+    EXPECT_LE(real->Lines("Mic"), 1);
 }
 
-TEST_F(SoundSensorOn, AServerThatHangsFromTheStartIsTakenWhenItAnswers) {
-    plugIn({"Mic"});
+TEST_F(SoundSensorTest, AServerThatHangsFromTheStartIsTakenWhenItAnswers) {
+    server->AddInput("Mic");
     server->Stop();
     RealSound real;
     EXPECT_TRUE(waitUntil([&] { return real.ticks > 50; })) << "the timer must tick";
@@ -156,29 +146,27 @@ TEST_F(SoundSensorOn, AServerThatHangsFromTheStartIsTakenWhenItAnswers) {
     EXPECT_LE(real.log.Lines.size(), 1U);
 }
 
-TEST_F(SoundSensorOn, AServerThatHangsLaterIsTakenBack) {
-    plugIn({"Mic", "Webcam"});
-    RealSound real;
-    ASSERT_TRUE(real.Hears(2));
+TEST_F(SoundSensorTest, AServerThatHangsLaterIsTakenBack) {
+    const auto real = hearing({"Mic", "Webcam"});
     std::optional<Tone> tone("Mic");
-    EXPECT_TRUE(real.LevelBecomes(50));
+    EXPECT_TRUE(real->LevelBecomes(50));
     server->Stop();
-    EXPECT_TRUE(real.LevelBecomes(0));
-    EXPECT_TRUE(waitUntil([&] { return !real.wi.GetWaveInValid(1); }));
+    EXPECT_TRUE(real->LevelBecomes(0));
+    EXPECT_TRUE(waitUntil([&] { return !real->wi.GetWaveInValid(1); }));
     // So long that every input has been tried in vain.
-    EXPECT_TRUE(waitUntil([&] { return !real.wi.GetWaveInValid(2); }));
-    const int ticks = real.ticks;
-    EXPECT_TRUE(waitUntil([&] { return real.ticks > ticks + 600; }));
+    EXPECT_TRUE(waitUntil([&] { return !real->wi.GetWaveInValid(2); }));
+    const int ticks = real->ticks;
+    EXPECT_TRUE(waitUntil([&] { return real->ticks > ticks + 600; }));
     server->Continue();
     tone.reset();
     tone.emplace("Mic");
-    EXPECT_TRUE(real.LevelBecomes(50));
-    EXPECT_TRUE(waitUntil([&] { return real.wi.GetWaveInValid(2); }));
-    EXPECT_LE(real.Lines("Mic"), 1);
-    EXPECT_LE(real.Lines("Webcam"), 1);
+    EXPECT_TRUE(real->LevelBecomes(50));
+    EXPECT_TRUE(waitUntil([&] { return real->wi.GetWaveInValid(2); }));
+    EXPECT_LE(real->Lines("Mic"), 1);
+    EXPECT_LE(real->Lines("Webcam"), 1);
 }
 
-TEST_F(SoundSensorOn, AMachineWithoutAServerIsSilent) {
+TEST_F(SoundSensorTest, AMachineWithoutAServerIsSilent) {
     qputenv("PULSE_SERVER", "unix:/veltrix/no/such/server");
     RealSound real;
     ASSERT_TRUE(waitUntil([&] { return real.sound->Captures()[0]->DeviceCount() == 0; }));
@@ -189,7 +177,7 @@ TEST_F(SoundSensorOn, AMachineWithoutAServerIsSilent) {
     EXPECT_LE(real.log.Lines.size(), 1U);
 }
 
-TEST_F(SoundSensorOn, AServerThatHangsKeepsNobodyFromLeaving) {
+TEST_F(SoundSensorTest, AServerThatHangsKeepsNobodyFromLeaving) {
     server->Stop();
     test::KeptLog log;
     const auto sound = MakeSound(VELTRIX_APPLICATION_FOLDER, log);

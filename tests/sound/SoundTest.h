@@ -20,25 +20,6 @@
 
 namespace veltrix::test {
 
-/// A test that needs a sound server. Where none can be started, it says why and is skipped.
-class SoundTest : public testing::Test {
-protected:
-    void SetUp() override {
-        try {
-            server.emplace();
-        } catch (const std::runtime_error& error) {
-            GTEST_SKIP() << error.what();
-        }
-    }
-
-    void plugIn(const QStringList& inputs) {
-        for (const QString& name : inputs)
-            server->AddInput(name);
-    }
-
-    std::optional<SoundServer> server;
-};
-
 /// The sound of the program, put together as main does: the captures, the sensor with its timer,
 /// the player.
 struct RealSound {
@@ -56,7 +37,7 @@ struct RealSound {
     RealSound(const RealSound&) = delete;
     RealSound& operator=(const RealSound&) = delete;
 
-    /// Waits until so many inputs are in use and the first so many give sound.
+    /// Waits until so many inputs are in use.
     [[nodiscard]] bool Hears(std::int32_t count) {
         return waitUntil([&] { return wi.GetUsedCount() == count; });
     }
@@ -77,6 +58,31 @@ struct RealSound {
     UCWaveIn wi{sound->Captures(), settings};
     QTimer timer1;
     int ticks = 0;
+};
+
+/// A test that needs a sound server. Where none can be started, it says why and is skipped. Each
+/// takes a process of its own, as ctest gives it: one that has had a server does not hear another.
+class SoundTest : public testing::Test {
+protected:
+    void SetUp() override {
+        try {
+            server.emplace();
+        } catch (const std::runtime_error& error) {
+            GTEST_SKIP() << error.what();
+        }
+    }
+
+    /// The sound of the program on a computer with these inputs, once it hears them all.
+    [[nodiscard]] std::unique_ptr<RealSound> hearing(const QStringList& inputs) {
+        for (const QString& name : inputs)
+            server->AddInput(name);
+        auto real = std::make_unique<RealSound>();
+        if (!real->Hears(static_cast<std::int32_t>(inputs.size())))
+            throw std::runtime_error("the inputs are not heard");
+        return real;
+    }
+
+    std::optional<SoundServer> server;
 };
 
 } // namespace veltrix::test

@@ -30,7 +30,7 @@ class NoServer(Exception):
 
 
 class SoundServer:
-    """A loudspeaker that nobody hears, and an input that hears what is played into the sink feed."""
+    """A loudspeaker that nobody hears, and an input that hears the sink "feed"."""
 
     def __enter__(self):
         with contextlib.ExitStack() as stack:
@@ -51,8 +51,9 @@ class SoundServer:
             try:
                 # A test that is killed must not leave its server behind.
                 self.process = subprocess.Popen(
-                    ["setpriv", "--pdeathsig", "KILL", "pulseaudio", "-n", "--daemonize=no", "--use-pid-file=no",
-                     "--exit-idle-time=-1", "--realtime=no", "--high-priority=no"] +
+                    ["setpriv", "--pdeathsig", "KILL", "pulseaudio", "-n", "--daemonize=no",
+                     "--use-pid-file=no", "--exit-idle-time=-1", "--realtime=no",
+                     "--high-priority=no"] +
                     [word for module in modules for word in ("-L", module)],
                     env=environment, stdout=self.log, stderr=self.log)
             except OSError as error:
@@ -157,7 +158,8 @@ class Program(unittest.TestCase):
         bars = 2 * 150 * 14
         tone = self.desktop.folder / "tone"
         # A saw of 441 swings a second.
-        tone.write_bytes(array.array("h", [i % 100 * 400 - 20000 for i in range(30 * RATE)]).tobytes())
+        saw = array.array("h", [i % 100 * 400 - 20000 for i in range(30 * RATE)])
+        tone.write_bytes(saw.tobytes())
         player = self.desktop.start("pacat", "-d", "feed", *FORMAT, str(tone))
         until("a meter", lambda: len(dialog.picture().differences(quiet)) > bars)
         player.kill()

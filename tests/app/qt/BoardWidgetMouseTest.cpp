@@ -102,12 +102,6 @@ TEST_F(BoardWidgetMouse, TheKnobOpensTurnsAndCloses) {
     EXPECT_EQ(form.TheBoard().Knobs.VariableVoltage, turned);
 }
 
-TEST_F(BoardWidgetMouse, TheCountersButtonSetsItToNought) {
-    const_cast<Board&>(form.TheBoard()).Display.SetValue(7);
-    Click("Pulsenteller Reset Drukknop");
-    EXPECT_EQ(form.TheBoard().Display.Value(), 0);
-}
-
 TEST_F(BoardWidgetMouse, ThePressThatRemovesMarksAndTakesTheNearestWire) {
     DrawWire("Drukknop 1 Uit Geel", "LED 1 Ingang");
     DrawWire("Drukknop 2 Uit Geel", "Zoemer");
@@ -141,15 +135,6 @@ TEST_F(BoardWidgetMouse, AWireThatExistsIsRefusedInABox) {
     EXPECT_EQ(answers.boxes[0].text, "Deze lijn bestaat al.");
     EXPECT_EQ(answers.boxes[0].title, "Veltrix 2");
     EXPECT_EQ(Wires(), 1);
-}
-
-TEST_F(BoardWidgetMouse, TwoOutputsOnAWireAreRefusedInABox) {
-    answers.Press("OK");
-    DrawWire("Drukknop 1 Uit Geel", "Drukknop 2 Uit Geel");
-    EXPECT_EQ(answers.boxes.size(), 1U);
-    EXPECT_EQ(Wires(), 0);
-    EXPECT_FALSE(Item("mnuUndo").isEnabled());
-    EXPECT_FALSE(Item("mnuRedo").isEnabled());
 }
 
 TEST_F(BoardWidgetMouse, TheRingMarksTheSocketUntilThePointerLeavesTheBoard) {
