@@ -19,6 +19,8 @@ SplashWindow::SplashWindow(const std::filesystem::path& applicationFolder)
     : QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint) {
     setObjectName("frmSplash");
     setFixedSize(side, side);
+    // Dark as the picture is where the text stands, which must be readable without it too.
+    setPalette(QColor(0x2b, 0x30, 0x38));
     auto* picture = new QLabel(this);
     picture->setObjectName("picSplash");
     picture->setGeometry(0, 0, side, side);
