@@ -1,5 +1,8 @@
 import json
+import os
+import pty
 import shutil
+import subprocess
 
 from planted import PlantedTree
 
@@ -29,6 +32,15 @@ class Build(PlantedTree):
         self.assert_passes(result)
         self.assertEqual(result.stdout + result.stderr, "OK: build (preset release)\n")
         self.assertEqual((self.tree / "build/release/made").read_text(), "first\n")
+
+    def test_builds_on_a_terminal_also_when_there_is_nothing_to_do(self):
+        master, terminal = pty.openpty()
+        self.addCleanup(os.close, master)
+        self.addCleanup(os.close, terminal)
+        for _ in range(2):
+            done = subprocess.run([self.tree / "tools/build", "release"], stdout=subprocess.PIPE,
+                                  stderr=terminal, text=True, check=False)
+            self.assertEqual((done.returncode, done.stdout), (0, "OK: build (preset release)\n"))
 
     def test_shows_why_building_failed(self):
         (self.tree / "source").unlink()

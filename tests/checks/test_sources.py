@@ -18,6 +18,12 @@ class Format(PlantedTree):
         self.plant("tests/board/map met spatie/b.h", "int  twice( int value );\n")
         self.assert_fails(self.start("tools/checks/format"), "b.h:1:", "FAIL: format")
 
+    def test_tree_without_a_file_and_settings_that_nobody_understands_are_no_success(self):
+        self.assert_fails(self.start("tools/checks/format"), "FAIL: format: there is no C++ file")
+        self.plant("board/a.cpp", CLEAN)
+        self.plant(".clang-format", "nonsense\n")
+        self.assert_fails(self.start("tools/checks/format"), "FAIL: format")
+
 
 class Shell(PlantedTree):
     def setUp(self):
