@@ -86,6 +86,11 @@ class Pages(unittest.TestCase):
             named = set(re.findall(r"[\w-]+\.vtx", Page(HTML / name).text))
             self.assertEqual(named, boards, name)
 
+    def test_every_board_stands_beside_the_programs_where_the_pages_send_the_reader(self):
+        for board in (ROOT / "examples").glob("*.vtx"):
+            copy = HTML.parent / "examples" / board.name
+            self.assertEqual(copy.read_bytes(), board.read_bytes(), board.name)
+
     def test_nothing_is_fetched_from_elsewhere(self):
         for path in PAGES:
             self.assertNotRegex(path.read_text(encoding="utf-8"), r"(src|href)=\"https?:")
