@@ -129,7 +129,7 @@ constexpr Text texts[] = {
 
     // Menus of text fields
     {"&Undo", "&Ongedaan maken"},
-    {"&Redo", "&Opnieuw"},
+    {"&Redo", "&Herhalen"},
     {"Cu&t", "K&nippen"},
     {"&Copy", "&Kopiëren"},
     {"Copy &Link Location", "Adres van de &koppeling kopiëren"},
@@ -157,8 +157,8 @@ constexpr Text texts[] = {
 
     // What a screen reader calls the things that can be done
     {"Press", "Indrukken"},
-    {"Increase", "Vermeerderen"},
-    {"Decrease", "Verminderen"},
+    {"Increase", "Hoger"},
+    {"Decrease", "Lager"},
     {"ShowMenu", "Menu tonen"},
     {"SetFocus", "Kiezen"},
     {"Toggle", "Omzetten"},
@@ -168,8 +168,8 @@ constexpr Text texts[] = {
     {"Scroll Down", "Omlaag schuiven"},
     {"Previous Page", "Vorige bladzijde"},
     {"Next Page", "Volgende bladzijde"},
-    {"Check", "Aankruisen"},
-    {"Uncheck", "Niet meer aankruisen"},
+    {"Check", "Aanvinken"},
+    {"Uncheck", "Uitvinken"},
     {"Triggers the action", "Voert de opdracht uit"},
     {"Increase the value", "Maakt de waarde groter"},
     {"Decrease the value", "Maakt de waarde kleiner"},

@@ -64,7 +64,7 @@ void strike(Loop& loop, double atSeconds, double note) {
     }
 }
 
-/// A door bell that keeps ringing: two notes a third apart, four strokes a turn.
+/// A doorbell that keeps ringing: two notes a third apart, four strokes a turn.
 Loop ringing() {
     constexpr double high = 1318.5; // Hz, E6
     constexpr double low = 1046.5;  // Hz, C6

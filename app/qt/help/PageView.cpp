@@ -25,11 +25,11 @@ constexpr int wheelStep = 120; // eighths of a degree
 QString missingPage(const QString& path) {
     const QFileInfo file(path);
     return QString("<h1>Deze bladzijde is er niet</h1>"
-                   "<p>Het programma zocht de bladzijde <b>%1</b> in de map <b>%2</b>, maar vond "
-                   "haar daar niet.</p>"
+                   "<p>Het programma zocht de bladzijde <b>%1</b> in de map <b>%2</b>, maar daar "
+                   "staat die niet.</p>"
                    "<p>Misschien is het programma niet helemaal gekopieerd: de map <b>html</b> "
                    "hoort naast het programma te staan. Installeer het opnieuw, of vraag het aan "
-                   "wie de computer beheert. Het bord zelf werkt ook zonder uitleg.</p>")
+                   "degene die de computer beheert. Het bord zelf werkt ook zonder uitleg.</p>")
         .arg(file.fileName().toHtmlEscaped(), file.path().toHtmlEscaped());
 }
 

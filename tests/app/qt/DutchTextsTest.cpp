@@ -182,7 +182,7 @@ TEST_F(DutchTextsTest, RemovingAFileIsAskedInDutch) {
 TEST_F(DutchTextsTest, MenusOfTextFieldsAreDutch) {
     QLineEdit line;
     line.show();
-    EXPECT_EQ(menuOf(line), QStringList({"Ongedaan maken", "Opnieuw", "Knippen", "Kopiëren",
+    EXPECT_EQ(menuOf(line), QStringList({"Ongedaan maken", "Herhalen", "Knippen", "Kopiëren",
                                          "Plakken", "Verwijderen", "Alles selecteren"}));
     QTextBrowser page;
     page.setHtml("<p>tekst</p>");
