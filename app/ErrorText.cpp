@@ -19,26 +19,27 @@ std::string fileReason(const std::error_code& code) {
         return "het bestand of de map bestaat niet (meer)";
     if (code == std::errc::is_a_directory)
         return "dit is een map en geen bestand";
+    if (code == std::errc::operation_not_supported)
+        return "dit is geen gewoon bestand";
     if (code == std::errc::filename_too_long)
         return "de naam is te lang";
     if (code == std::errc::io_error || code == std::errc::no_such_device)
         return "de schijf geeft een fout; is hij nog aangesloten?";
-    return code.message();
+    return "de computer meldt een fout (" + code.message() + ")";
 }
 
 } // namespace
 
 std::string DutchReason(const std::exception& error) {
     if (const auto* file = dynamic_cast<const std::system_error*>(&error))
-        return "Het bestand kon niet worden gelezen of bewaard: " + fileReason(file->code()) +
-               ".\r\nUw bord is niet veranderd.";
+        return "Het bestand kon niet worden gelezen of bewaard: " + fileReason(file->code()) + ".";
     if (dynamic_cast<const std::bad_alloc*>(&error) != nullptr)
         return "De computer heeft te weinig geheugen vrij.";
     if (dynamic_cast<const std::overflow_error*>(&error) != nullptr)
         return "Een waarde op het bord is te groot om mee te rekenen.";
     if (dynamic_cast<const std::out_of_range*>(&error) != nullptr)
-        return "Het bord bevat een waarde of een aantal dat niet kan.";
-    return std::string("Er ging iets mis: ") + error.what();
+        return "Op het bord staat een getal dat niet kan.";
+    return "Er ging iets mis. Probeer het nog eens."; // the log tells what
 }
 
 } // namespace veltrix
