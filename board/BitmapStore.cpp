@@ -63,9 +63,8 @@ std::int32_t BitmapStore::Bitmap::RowAt(std::int64_t y) const noexcept {
     return clamped(positionInStrip(y, height, picture->height));
 }
 
-void BitmapStore::Start(const std::filesystem::path& applicationFolder, double scale, Log& log) {
+void BitmapStore::Start(const std::filesystem::path& applicationFolder, Log& log) {
     folder_ = applicationFolder;
-    scale_ = scale;
     log_ = &log;
 }
 

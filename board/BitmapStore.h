@@ -28,9 +28,9 @@ public:
     };
 
     /// `log` must outlive the store. See PictorATL::Start.
-    void Start(const std::filesystem::path& applicationFolder, double scale, Log& log);
+    void Start(const std::filesystem::path& applicationFolder, Log& log);
 
-    /// Loads every picture anew for another scale; pixels that were set stay set.
+    /// The scale from now on. Every picture is loaded anew; pixels that were set stay set.
     void Restart(double scale);
 
     /// The number of a new bitmap, counted from 1. See PictorATL::LoadBitmap.

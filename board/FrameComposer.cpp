@@ -62,8 +62,8 @@ void FrameComposer::Refresh() {
         compose(rect);
 }
 
-/// Also indexes them by their looks, so that a board of thousands of beads need not compare each
-/// with each.
+/// Gathers what the frame still shows of sprites that are gone, indexed by look, so that a board of
+/// thousands of beads need not compare each with each.
 void FrameComposer::findGhosts() {
     painted_.resize(std::max(painted_.size(), tree_.Size()));
     ghosts_.clear();
@@ -94,8 +94,8 @@ std::size_t FrameComposer::bucketOf(const Look& look) const noexcept {
     return static_cast<std::size_t>(mixed >> 32) & (buckets_.size() - 1);
 }
 
-/// Whether the node at `index`, which the frame does not show yet, looks exactly like a sprite that
-/// is gone since, with nothing painted between the two that would now lie on the other side.
+/// Lets the node at `index`, which the frame does not show yet, take the place of a sprite that is
+/// gone, if it looks exactly like it and nothing painted would now lie on the other side of it.
 bool FrameComposer::takeOver(std::int32_t index, const Look& look) {
     if (ghosts_.empty() || !painted(index).look.rect.Empty() || look.rect.Empty())
         return false;

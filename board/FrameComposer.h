@@ -10,8 +10,8 @@
 
 namespace veltrix {
 
-/// Paints a tree of sprites into a frame of pixels, and nothing of it twice: it compares how every
-/// touched sprite looks now with how the frame shows it.
+/// Paints a tree of sprites into a frame of pixels, and of it only what looks different: it
+/// compares how every touched sprite looks now with how the frame shows it.
 class FrameComposer {
 public:
     /// Both must outlive the composer.

@@ -20,7 +20,7 @@ bool PictorATL::Start(const std::filesystem::path& applicationFolder, std::int32
         return false;
     width_ = width;
     height_ = height;
-    bitmaps_.Start(applicationFolder, scale, log);
+    bitmaps_.Start(applicationFolder, log);
     Restart(scale);
     return true;
 }
@@ -144,11 +144,6 @@ std::int32_t PictorATL::GetSpriteX(std::int32_t sprite) const noexcept {
     return index != SpriteTree::None ? tree_[index].place.x : 0;
 }
 
-std::int32_t PictorATL::GetSpriteY(std::int32_t sprite) const noexcept {
-    const std::int32_t index = tree_.Find(sprite);
-    return index != SpriteTree::None ? tree_[index].place.y : 0;
-}
-
 bool PictorATL::IsPointerOver(std::int32_t sprite) const noexcept {
     const std::int32_t index = tree_.Find(sprite);
     return index != SpriteTree::None && isPointerOver(index);
@@ -177,24 +172,25 @@ void PictorATL::RemoveListener(SurfaceEvents& listener) {
 }
 
 void PictorATL::MouseDown(MouseButton button, std::int32_t x, std::int32_t y) {
-    const std::int32_t sprite = spriteAt(x, y);
+    const std::int32_t sprite = movePointer(x, y);
     for (SurfaceEvents* listener : listeners_)
         listener->MouseDown(sprite, button, x, y);
 }
 
 void PictorATL::MouseUp(MouseButton button, std::int32_t x, std::int32_t y) {
-    const std::int32_t sprite = spriteAt(x, y);
+    const std::int32_t sprite = movePointer(x, y);
     for (SurfaceEvents* listener : listeners_)
         listener->MouseUp(sprite, button, x, y);
 }
 
 void PictorATL::MouseMove(std::int32_t x, std::int32_t y) {
-    const std::int32_t sprite = spriteAt(x, y);
+    const std::int32_t sprite = movePointer(x, y);
     for (SurfaceEvents* listener : listeners_)
         listener->MouseMove(sprite, x, y);
 }
 
-std::int32_t PictorATL::spriteAt(std::int32_t x, std::int32_t y) {
+/// The sprite that an event at the pointer's new place names.
+std::int32_t PictorATL::movePointer(std::int32_t x, std::int32_t y) {
     pointer_ = {x, y};
     const std::vector<std::int32_t>& order = tree_.Order();
     for (auto at = order.rbegin(); at != order.rend(); ++at) {

@@ -54,8 +54,8 @@ public:
     [[nodiscard]] bool Start(const std::filesystem::path& applicationFolder, std::int32_t width,
                              std::int32_t height, double scale, Log& log);
 
-    /// The same surface with the same sprites for a screen of another scale. Ignores a scale that
-    /// Start would refuse.
+    /// The same surface with the same sprites for a screen of another scale; the frame is black
+    /// until the next Refresh. Ignores a scale that Start would refuse.
     void Restart(double scale);
 
     [[nodiscard]] double Scale() const noexcept { return scale_; }
@@ -104,11 +104,11 @@ public:
     /// Looks at the sprite anew at the next Refresh.
     void RedrawSprite(std::int32_t sprite);
 
+    /// spriteState::Hidden for a number that belongs to nothing.
     [[nodiscard]] std::int32_t GetSpriteState(std::int32_t sprite) const noexcept;
 
-    /// Relative to the parent; 0 for a number that belongs to nothing.
+    /// The left edge, relative to the parent; 0 for a number that belongs to nothing.
     [[nodiscard]] std::int32_t GetSpriteX(std::int32_t sprite) const noexcept;
-    [[nodiscard]] std::int32_t GetSpriteY(std::int32_t sprite) const noexcept;
 
     /// Whether the pointer, where the last mouse event left it, is over the sprite or group. False
     /// while it is hidden.
@@ -143,7 +143,7 @@ public:
     void MouseMove(std::int32_t x, std::int32_t y);
 
 private:
-    [[nodiscard]] std::int32_t spriteAt(std::int32_t x, std::int32_t y);
+    std::int32_t movePointer(std::int32_t x, std::int32_t y);
     [[nodiscard]] bool isPointerOver(std::int32_t index) const noexcept;
 
     std::int32_t width_ = 0;

@@ -26,7 +26,6 @@ std::int32_t SpriteTree::Make(Kind kind) {
     fresh.age = fresh.rank = ++ages_;
     attach(index, None);
     Touch(index);
-    ++live_;
     return index;
 }
 
@@ -40,7 +39,6 @@ void SpriteTree::Erase(std::int32_t index) {
     gone.generation = generation;
     gone.touched = true;
     unused_.push_back(index);
-    --live_;
 }
 
 void SpriteTree::EraseChildren(std::int32_t index) {
@@ -157,8 +155,8 @@ void SpriteTree::detach(std::int32_t index) noexcept {
     orderStale_ = true;
 }
 
-/// For what now lies elsewhere between the others. A new rank makes all that is attached to it look
-/// different, also where it comes back alike after it was cleared.
+/// For a node whose place in the order has changed. The new rank makes all that is attached to it
+/// count as different, even where it is cleared and made again alike.
 void SpriteTree::rankTree(std::int32_t index) {
     Touch(index);
     (*this)[index].rank = ++ages_;

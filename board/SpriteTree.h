@@ -18,7 +18,7 @@ inline constexpr std::int32_t Hidden = 3;
 /// The flags of a sprite. A lamp on a push button must let the click through to the board.
 namespace spriteFlags {
 inline constexpr std::int32_t ReportsMouse = 1; ///< events over it name it
-inline constexpr std::int32_t Overlay = 4;      ///< a mere picture: the mouse looks through it
+inline constexpr std::int32_t Overlay = 4;      ///< a mere picture, as is all that does not report
 } // namespace spriteFlags
 
 /// The sprites and groups of a surface: what hangs on what, where each of them is, and what lies
@@ -77,7 +77,9 @@ public:
     [[nodiscard]] std::size_t Size() const noexcept { return nodes_.size(); }
 
     /// How many nodes there are.
-    [[nodiscard]] std::int32_t Count() const noexcept { return live_; }
+    [[nodiscard]] std::int32_t Count() const noexcept {
+        return static_cast<std::int32_t>(nodes_.size() - unused_.size());
+    }
 
     /// Attaches a node to a parent; ignored where it would become its own ancestor.
     void SetParent(std::int32_t index, std::int32_t parent);
@@ -89,7 +91,7 @@ public:
     /// Whether a node and everything that it hangs on is in the state spriteState::Shown.
     [[nodiscard]] bool Shown(std::int32_t index) const noexcept;
 
-    /// A node's place on the board, far outside it at the most.
+    /// A node's place on the board, its corner no further out than 2^28.
     [[nodiscard]] Rect BoardRect(std::int32_t index) const noexcept;
 
     /// All nodes from the lowest to the highest.
@@ -115,7 +117,6 @@ private:
     std::vector<std::int32_t> unused_;
     std::int32_t firstRoot_ = None;
     std::int32_t lastRoot_ = None;
-    std::int32_t live_ = 0;
     std::uint64_t ages_ = 0;
     std::vector<std::int32_t> touched_;
     std::vector<std::int32_t> order_;

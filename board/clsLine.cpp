@@ -55,7 +55,6 @@ void clsLine::SetCoords(std::int32_t groupNR, std::int32_t x, std::int32_t y) {
 void clsLine::SetColor(std::int32_t Color) {
     if (Color == color_)
         return;
-    clear();
     color_ = Color;
     redraw();
 }
@@ -63,7 +62,6 @@ void clsLine::SetColor(std::int32_t Color) {
 void clsLine::SetHighlight(bool Highlight) {
     if (Highlight == highlight_)
         return;
-    clear();
     highlight_ = Highlight;
     redraw();
 }
@@ -81,12 +79,8 @@ std::int32_t clsLine::Distance(std::int32_t Xpos, std::int32_t Ypos) const {
     return least;
 }
 
-void clsLine::clear() {
-    mag_->ClearGroup(groupLID_);
-}
-
 void clsLine::redraw() {
-    clear();
+    mag_->ClearGroup(groupLID_);
     if (valid1_ && valid2_)
         bl_->DrawLine(groupLID_, x1_, y1_, x2_, y2_,
                       highlight_ ? clsBordLines::ColorHighlight : color_);

@@ -10,8 +10,8 @@ namespace veltrix {
 class PictorATL;
 class clsBordLines;
 
-/// A wire between two sockets. It is drawn once both its ends are placed, anew only when something
-/// about it really changes, and leaves the surface when it is destroyed.
+/// A wire between two sockets. It is drawn once both its ends are placed, and leaves the surface
+/// when it is destroyed. Giving it the colour or the highlight that it has already draws nothing.
 class clsLine {
 public:
     clsLine() = default;
@@ -68,7 +68,6 @@ public:
     Bool16 done;
 
 private:
-    void clear();
     void redraw();
 
     clsBordLines* bl_ = nullptr;
