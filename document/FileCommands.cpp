@@ -163,9 +163,9 @@ void FileCommands::OpenFromCommandLine(const std::string& text) {
             messages_.Show("Te openen bestand " + path + " bestaat niet.", "Fout", Buttons::Ok);
         }
     }
-    // After a document this is a second step, equal to the first: what was opened by its name
+    // After a document this is a second state, equal to the first: what was opened by its name
     // counts as changed.
-    history_.AddThisState();
+    history_.Undo_AddThisState();
 }
 
 FileCommands::Closing FileCommands::askHowToClose() {

@@ -8,18 +8,18 @@
 
 namespace veltrix {
 
-/// The undo steps, as far as the file commands know them.
+/// The undo states, as far as the file commands know them.
 class History {
 public:
     virtual ~History() = default;
 
-    /// Forgets every step and records the board as it is now as the first one.
+    /// Forgets every state and records the board as it is now as the first one.
     virtual void Reset() = 0;
 
-    /// Records the board as it is now as one more step.
-    virtual void AddThisState() = 0;
+    /// Records the board as it is now as one more state.
+    virtual void Undo_AddThisState() = 0;
 
-    /// Whether the board is at any step but the first.
+    /// Whether the board is at any state but the first.
     [[nodiscard]] virtual bool Changed() const = 0;
 };
 
@@ -89,8 +89,8 @@ public:
     void OpenDocument(const std::string& path);
 
     /// Opens the document that the command line names, in double quotes or not, and records the
-    /// board as an undo step, whether there is a document or not. A file that is not there is
-    /// reported to the user. When the file cannot be read, no step was recorded.
+    /// board as an undo state, whether there is a document or not. A file that is not there is
+    /// reported to the user. When the file cannot be read, no state was recorded.
     void OpenFromCommandLine(const std::string& text);
 
     /// The path of the current document; empty for a board that has no file.

@@ -107,7 +107,7 @@ void BoardInteraction::operate(const SocketName& name) {
     else if (name == "Puls Generator Regelaar")
         openKnob(name, pulseGeneratorKnob.x, pulseGeneratorKnob.y, board_.Knobs.PulseGenerator);
     else if (name == "Pulsenteller Reset Drukknop")
-        board_.Display.SetValue(0); // like a count, which no undo state records either
+        board_.Display.SetValue(0); // makes no undo state, as counting makes none
 }
 
 void BoardInteraction::toggle(clsLED& button) {

@@ -48,7 +48,7 @@ public:
     /// The pointer left the board: no socket is marked.
     void PointerLeft() noexcept { hovering_ = false; }
 
-    /// Lets go of the wire in hand, or else closes the knob.
+    /// Lets go of the loose wire, or else closes the knob.
     void Escape();
 
     /// The shape that tells what a left click at a board position would do.

@@ -7,6 +7,7 @@ namespace veltrix {
 void UndoList::Undo_AddThisState() {
     while (states_.Count() > pointer_)
         states_.Remove(states_.Count());
+    enableMenu(); // the board may not fit in a state
     auto state = std::make_shared<clsKorvelRWRam>();
     WriteTo(board_, *state);
     states_.Add(std::move(state));
@@ -40,7 +41,7 @@ void UndoList::Undo_RemoveLastState() {
 }
 
 void UndoList::Reset() {
-    // The wire in hand belonged to the board that was replaced.
+    // The loose wire belonged to the board that was replaced.
     looseWire_.Line.reset();
     states_ = {};
     pointer_ = 0;

@@ -33,9 +33,9 @@ public:
     UndoList(Board& board, LooseWire& looseWire, UndoMenu& menu, MessageBox& messages) noexcept
         : board_(board), looseWire_(looseWire), menu_(menu), messages_(messages) {}
 
-    /// Drops the steps that were undone and records the board as it is now. Throws
-    /// std::out_of_range when the board does not fit in a state; the undone steps are gone then.
-    void Undo_AddThisState();
+    /// Drops the states that were undone and records the board as it is now. Throws
+    /// std::out_of_range when the board does not fit in a state; the undone ones are gone then.
+    void Undo_AddThisState() override;
 
     /// Takes the board back one state, or forward one; shows a message when there is none.
     void mnuUndo_Click();
@@ -49,8 +49,6 @@ public:
     [[nodiscard]] std::int32_t Position() const noexcept { return pointer_; }
 
     void Reset() override;
-
-    void AddThisState() override { Undo_AddThisState(); }
 
     [[nodiscard]] bool Changed() const override { return pointer_ > 1; }
 

@@ -73,10 +73,10 @@ public:
     void Reset() override {
         resets += 1;
         steps.clear();
-        AddThisState();
+        Undo_AddThisState();
     }
 
-    void AddThisState() override { steps.push_back(documentOf(board_)); }
+    void Undo_AddThisState() override { steps.push_back(documentOf(board_)); }
 
     [[nodiscard]] bool Changed() const override { return steps.size() > 1; }
 
@@ -118,7 +118,7 @@ protected:
 
     void edit() {
         wire(board, "Sensor 1 Uit Geel", "LED 1 Ingang");
-        history.AddThisState();
+        history.Undo_AddThisState();
     }
 
     [[nodiscard]] std::string path(const std::string& name) const {

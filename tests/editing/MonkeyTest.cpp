@@ -41,7 +41,7 @@ public:
                 command(&FORM1::mnuNieuw_Click, true);
             break;
         case 7:
-            desktop_.edge.Mouse([](FORM1& form) { form.Escape_Press(); });
+            desktop_.edge.Quietly([](FORM1& form) { form.Escape_Press(); });
             break;
         case 8:
         case 9:
@@ -113,10 +113,10 @@ private:
 
     void click(Point to, MouseButton button) {
         desktop_.pointer.position = to;
-        desktop_.edge.Mouse([&](FORM1& form) { form.Pictor1_MouseMove(to.x, to.y); });
-        desktop_.edge.Mouse([&](FORM1& form) { form.Pictor1_MouseDown(button, to.x, to.y); });
+        desktop_.edge.Quietly([&](FORM1& form) { form.Pictor1_MouseMove(to.x, to.y); });
+        desktop_.edge.Quietly([&](FORM1& form) { form.Pictor1_MouseDown(button, to.x, to.y); });
         if (pick(8) != 0)
-            desktop_.edge.Mouse([&](FORM1& form) { form.Pictor1_MouseUp(button, to.x, to.y); });
+            desktop_.edge.Quietly([&](FORM1& form) { form.Pictor1_MouseUp(button, to.x, to.y); });
     }
 
     clsKorvelRWRam::Block document() {

@@ -143,9 +143,10 @@ TEST_F(UndoListTest, ABoardTooLargeForAnUndoStateIsAnErrorAndWhatWasUndoneIsGone
     for (int i = 0; i < 1800; ++i)
         board.AddLine("Pulsenteller Tel pulsen (In)", "LED 1 Ingang");
     EXPECT_THROW(undo.Undo_AddThisState(), std::out_of_range);
-    EXPECT_EQ(undo.Count(), 1);
-    EXPECT_EQ(undo.Position(), 1);
+    expectState(1, 1);
     EXPECT_EQ(board.Lines.Count(), 1800);
+    EXPECT_THROW(undo.Reset(), std::out_of_range);
+    expectState(0, 0);
 }
 
 } // namespace
