@@ -16,9 +16,9 @@ public:
     virtual void Show(const std::string& text) = 0;
 };
 
-/// Where events enter the program. No error gets past it: a menu command's is told to the user, a
-/// mouse event's goes to the log, and a tick's is told once for a row of equal ones. Events that
-/// come after the program's end are dropped.
+/// Where events enter the program. No error gets past it: a command's is told to the user, that of
+/// an event which nobody chose (the mouse, a timer, another screen) goes to the log, and a tick's
+/// is told once for a row of equal ones. Events that come after the program's end are dropped.
 class EventEdge {
 public:
     EventEdge(FORM1& form, MessageBox& messages, FaultNotice& notice, Log& log) noexcept
@@ -30,7 +30,7 @@ public:
     }
 
     template <typename Event>
-    void Mouse(Event event) {
+    void Quietly(Event event) {
         contain(event, [this](const std::exception& error) { note(error); });
     }
 

@@ -67,7 +67,7 @@ public:
 
     void mnuHelpAbout_Click();
 
-    // The mouse over the surface and the keyboard, in board pixels
+    // The mouse over the surface, in board pixels, and the keyboard
     void Pictor1_MouseDown(MouseButton button, std::int32_t x, std::int32_t y) {
         Pictor1.MouseDown(button, x, y);
     }

@@ -10,8 +10,8 @@
 
 namespace veltrix::cli {
 
-/// Where the rows of a run go: a file, or the standard output. Text gathers in a buffer, since a
-/// run writes millions of cells.
+/// Where what a command has to say goes: a file, or the standard output. Text gathers in a buffer,
+/// since a run writes millions of cells.
 class Output {
 public:
     /// Onto a stream that outlives the output. `name` is what a fault calls it.

@@ -11,7 +11,7 @@ namespace veltrix::cli {
 namespace exitCode {
 inline constexpr int Done = 0;
 inline constexpr int Found = 1;  ///< check has something to report
-inline constexpr int Failed = 2; ///< bad use, or input that cannot be read
+inline constexpr int Failed = 2; ///< bad use, or something cannot be read or written
 } // namespace exitCode
 
 /// The program behind its main: does what the arguments (those behind the program's name) ask, and

@@ -54,7 +54,7 @@ private:
     std::filesystem::path target_;
     std::filesystem::path temporaryPath_;
     std::optional<SaveCalls::File> original_;
-    std::optional<SaveCalls::File> temporary_; // none while the file itself is written
+    std::optional<SaveCalls::File> temporary_; // none where there can be no second file
 };
 
 } // namespace veltrix

@@ -9,8 +9,8 @@
 
 namespace veltrix {
 
-/// Writes chunks to a file. They reach the file when it is closed, all of them or none (see
-/// FileSave). Every write throws std::system_error when no file is open.
+/// Writes chunks to a file. They reach the file when it is closed, all of them or none, as far as
+/// that can be promised (see FileSave). Every write throws std::system_error when no file is open.
 class clsKorvelWFile : public ChunkFieldWriter<clsKorvelWFile> {
 public:
     /// `calls` must outlive the stream.
@@ -30,7 +30,7 @@ public:
     void OpenFile(const std::string& fname);
 
     /// Does nothing when no file is open. Throws std::system_error when the file cannot be written;
-    /// it is closed then, and what was there before is still there.
+    /// it is closed then, and FileSave::Commit says what is in it.
     void CloseFile();
 
 private:

@@ -33,8 +33,9 @@ std::int32_t slowWave(double seconds) {
 } // namespace
 
 void Tick::Timer1_Timer() {
-    // Over the menu bar or the frame the board rests, so that menus stay quick on slow machines.
-    parts_.Timer.SetInterval(parts_.ThePointer.OverBareMainWindow() ? IntervalOverFrame : Interval);
+    // Over the menu bar the board rests, so that menus stay quick on slow machines.
+    parts_.Timer.SetInterval(parts_.ThePointer.OverBareMainWindow() ? IntervalOverBareWindow
+                                                                    : Interval);
     phase_ = phase_ == 9 ? 1 : phase_ + 1;
     parts_.Follower.MoveLooseEnd();
     parts_.Follower.MarkSocket();

@@ -60,7 +60,7 @@ class PointerFollower {
 public:
     virtual ~PointerFollower() = default;
 
-    /// Moves the loose end of a half-drawn wire to the pointer.
+    /// Moves the loose end of the wire that is being drawn to the pointer.
     virtual void MoveLooseEnd() = 0;
 
     /// Marks the socket under the pointer, or none.
@@ -71,8 +71,8 @@ public:
 /// result. It knows no clock, pointer or sound of its own, so that every run can be repeated.
 class Tick {
 public:
-    static constexpr std::int32_t Interval = 10;            ///< ms
-    static constexpr std::int32_t IntervalOverFrame = 1000; ///< ms, pointer on the bare window
+    static constexpr std::int32_t Interval = 10;                 ///< ms
+    static constexpr std::int32_t IntervalOverBareWindow = 1000; ///< ms
 
     /// What a tick works with; all of it must outlive the tick.
     struct Parts {

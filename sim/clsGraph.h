@@ -19,9 +19,9 @@ class clsDisplay;
 ///
 /// A table of sockets with known levels grows from the sources that the caller adds: wires copy a
 /// known level to an unknown end, and a module adds its outputs as soon as every connected input is
-/// known. The run ends when a whole pass adds nothing. Levels are tenths of a volt; a socket is
-/// high at exactly 50. The memory cell and the counter's last pulse level outlive a run; the count
-/// itself is the display's.
+/// known; the relay alone does not wait for its coil. The run ends when a whole pass adds nothing.
+/// Levels are tenths of a volt; a socket is high at exactly 50. The memory cell and the counter's
+/// last pulse level outlive a run; the count itself is the display's.
 class clsGraph {
 public:
     /// Keeps the counter's display, which must outlive the evaluator. Comes before Run.

@@ -69,11 +69,13 @@ void BoardWidget::matchScale() {
     // there are signals.
     if (form_->Pictor1.Scale() == devicePixelRatioF())
         return;
-    edge_->Mouse([this](FORM1& form) {
+    edge_->Quietly([this](FORM1& form) {
         form.Pictor1.Restart(devicePixelRatioF());
         form.Pictor1.Refresh();
     });
-    update();
+    // A scale that the surface refuses must not have the board painted over and over.
+    if (form_->Pictor1.Scale() == devicePixelRatioF())
+        update();
 }
 
 void BoardWidget::mousePressEvent(QMouseEvent* event) {
@@ -81,8 +83,8 @@ void BoardWidget::mousePressEvent(QMouseEvent* event) {
     if (form_ == nullptr || !button)
         return;
     const Point at = boardPixel(event->position());
-    edge_->Mouse([&](FORM1& form) { form.Pictor1_MouseDown(*button, at.x, at.y); });
-    edge_->Mouse([&](FORM1& form) { showShape(form.Pictor1_ShapeAt(at.x, at.y)); });
+    edge_->Quietly([&](FORM1& form) { form.Pictor1_MouseDown(*button, at.x, at.y); });
+    edge_->Quietly([&](FORM1& form) { showShape(form.Pictor1_ShapeAt(at.x, at.y)); });
 }
 
 void BoardWidget::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -95,20 +97,20 @@ void BoardWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (form_ == nullptr || !button)
         return;
     const Point at = boardPixel(event->position());
-    edge_->Mouse([&](FORM1& form) { form.Pictor1_MouseUp(*button, at.x, at.y); });
+    edge_->Quietly([&](FORM1& form) { form.Pictor1_MouseUp(*button, at.x, at.y); });
 }
 
 void BoardWidget::mouseMoveEvent(QMouseEvent* event) {
     if (form_ == nullptr)
         return;
     const Point at = boardPixel(event->position());
-    edge_->Mouse([&](FORM1& form) { form.Pictor1_MouseMove(at.x, at.y); });
-    edge_->Mouse([&](FORM1& form) { showShape(form.Pictor1_ShapeAt(at.x, at.y)); });
+    edge_->Quietly([&](FORM1& form) { form.Pictor1_MouseMove(at.x, at.y); });
+    edge_->Quietly([&](FORM1& form) { showShape(form.Pictor1_ShapeAt(at.x, at.y)); });
 }
 
 void BoardWidget::leaveEvent(QEvent* event) {
     if (form_ != nullptr)
-        edge_->Mouse([](FORM1& form) { form.Pictor1_MouseLeave(); });
+        edge_->Quietly([](FORM1& form) { form.Pictor1_MouseLeave(); });
     QWidget::leaveEvent(event);
 }
 

@@ -148,7 +148,7 @@ void QtMainWindow::closeEvent(QCloseEvent* event) {
 
 void QtMainWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape)
-        edge_->Mouse([](FORM1& form) { form.Escape_Press(); });
+        edge_->Quietly([](FORM1& form) { form.Escape_Press(); });
     else
         QMainWindow::keyPressEvent(event);
 }

@@ -12,9 +12,9 @@
 
 namespace veltrix {
 
-QtTickTimer::QtTickTimer(std::function<void()> tick) {
+QtTickTimer::QtTickTimer(std::int32_t interval, std::function<void()> tick) {
     timer_.setTimerType(Qt::PreciseTimer);
-    timer_.setInterval(Tick::Interval);
+    timer_.setInterval(interval);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, std::move(tick));
 }
 

@@ -14,10 +14,11 @@ class QWidget;
 
 namespace veltrix {
 
-/// The timer of the tick.
+/// A timer of the program, not enabled to begin with: that of the tick, or of the sound sensor.
 class QtTickTimer : public TickTimer {
 public:
-    explicit QtTickTimer(std::function<void()> tick);
+    /// `interval` is in milliseconds.
+    QtTickTimer(std::int32_t interval, std::function<void()> tick);
 
     void SetEnabled(bool Enabled) override;
     void SetInterval(std::int32_t Interval) override;
@@ -32,8 +33,8 @@ public:
     [[nodiscard]] float Timer() override;
 };
 
-/// Asks the desktop where the pointer is at most once a tick, since the answer may come from
-/// another process.
+/// Asks the desktop where the pointer is at most once for both sensors, since the answer may come
+/// from another process.
 class QtPointer : public Pointer {
 public:
     /// `surface` shows the board, `bare` is what is left of the main window: its menu bar.

@@ -58,7 +58,7 @@ int main(int argc, char** argv) {
     const std::unique_ptr<Sound> sound = MakeSound(program.Folder(), log);
 
     EventEdge* edge = nullptr;
-    QtTickTimer timer([&] {
+    QtTickTimer timer(Tick::Interval, [&] {
         edge->Tick();
         window.Surface().ShowChanges();
     });
@@ -69,8 +69,9 @@ int main(int argc, char** argv) {
     edge = &eventEdge;
     window.Connect(form, eventEdge);
 
-    QtTickTimer waveTimer(
-        [&] { eventEdge.Mouse([](FORM1& running) { running.UCWaveIn1.Timer1_Timer(); }); });
+    QtTickTimer waveTimer(UCWaveIn::Interval, [&] {
+        eventEdge.Quietly([](FORM1& running) { running.UCWaveIn1.Timer1_Timer(); });
+    });
     waveTimer.SetEnabled(true);
 
     eventEdge.Command([](FORM1& starting) { starting.Form_Load(); });

@@ -26,7 +26,7 @@ TEST_F(EventEdgeTest, ACommandsErrorIsToldInDutchAndTheProgramGoesOn) {
 
 TEST_F(EventEdgeTest, AMouseEventsErrorGoesToTheLogOnly) {
     desktop.log.Lines.clear();
-    desktop.edge.Mouse([](FORM1&) { throw std::out_of_range("beyond the end"); });
+    desktop.edge.Quietly([](FORM1&) { throw std::out_of_range("beyond the end"); });
     EXPECT_EQ(desktop.log.Lines, std::vector<std::string>{"beyond the end"});
     EXPECT_TRUE(desktop.messages.shown.empty());
 }

@@ -110,10 +110,10 @@ void FindBar::findFrom(int position, QTextDocument::FindFlags flags) {
 void FindBar::tell(const QString& text, bool found) {
     result_->setText(text);
     QPalette colours;
-    if (!found)
+    if (!found) {
         colours.setColor(QPalette::Base, QColor(0xff, 0xdc, 0xd6));
-    if (!found)
         colours.setColor(QPalette::Text, QColor(0x22, 0x26, 0x2b));
+    }
     word_->setPalette(colours);
 }
 

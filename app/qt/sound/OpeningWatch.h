@@ -1,5 +1,7 @@
 #pragma once
 
+#include "instruments/UCWaveIn.h"
+
 #include <array>
 #include <chrono>
 #include <cstddef>
@@ -16,7 +18,7 @@ public:
     static constexpr std::chrono::seconds Patience{2};
 
     static constexpr std::size_t Output = 0; ///< the loudspeaker; the inputs have their numbers
-    static constexpr std::size_t Devices = 6;
+    static constexpr std::size_t Devices = UCWaveIn::Inputs + 1;
 
     void Begin(std::size_t device);
 

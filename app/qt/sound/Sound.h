@@ -9,8 +9,8 @@
 
 namespace veltrix {
 
-/// The computer's sound. One file for each platform makes it; this is all that the rest of the
-/// desktop knows of it.
+/// The computer's sound; this is all that the rest of the desktop knows of it. Where the program is
+/// built without sound, on Windows for one, nothing is heard or listened to.
 class Sound {
 public:
     virtual ~Sound() = default;

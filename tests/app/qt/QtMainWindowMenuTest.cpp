@@ -156,7 +156,7 @@ TEST_F(QtMainWindowMenu, TheBoardRestsWhileThePointerIsOnTheMenuBarAndNoLonger) 
     };
     const QRect title = window.menuBar()->actionGeometry(window.menuBar()->actions().at(2));
     moveTo(window, title.center());
-    EXPECT_EQ(interval(), Tick::IntervalOverFrame);
+    EXPECT_EQ(interval(), Tick::IntervalOverBareWindow);
 
     // An item is chosen with the mouse; the menu was open over the board.
     QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, title.center());

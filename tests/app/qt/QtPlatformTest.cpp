@@ -15,13 +15,13 @@ namespace {
 
 TEST(QtTickTimer, TicksWhileItIsEnabled) {
     int ticks = 0;
-    QtTickTimer timer([&] { ++ticks; });
+    QtTickTimer timer(Tick::Interval, [&] { ++ticks; });
     timer.SetEnabled(true);
     EXPECT_TRUE(waitUntil([&] { return ticks >= 3; }));
     timer.SetEnabled(false);
     const int before = ticks;
     int others = 0;
-    QtTickTimer other([&] { ++others; });
+    QtTickTimer other(Tick::Interval, [&] { ++others; });
     other.SetEnabled(true);
     ASSERT_TRUE(waitUntil([&] { return others >= 3; }));
     EXPECT_EQ(ticks, before);
@@ -30,9 +30,9 @@ TEST(QtTickTimer, TicksWhileItIsEnabled) {
 TEST(QtTickTimer, IsNotEnabledToBeginWith) {
     int ticks = 0;
     int others = 0;
-    QtTickTimer timer([&] { ++ticks; });
+    QtTickTimer timer(Tick::Interval, [&] { ++ticks; });
     timer.SetInterval(1);
-    QtTickTimer other([&] { ++others; });
+    QtTickTimer other(Tick::Interval, [&] { ++others; });
     other.SetEnabled(true);
     ASSERT_TRUE(waitUntil([&] { return others >= 3; }));
     EXPECT_EQ(ticks, 0);
@@ -41,7 +41,7 @@ TEST(QtTickTimer, IsNotEnabledToBeginWith) {
 TEST(QtTickTimer, TheSameIntervalSetInEveryTickDoesNotPutItOff) {
     int ticks = 0;
     QtTickTimer* self = nullptr;
-    QtTickTimer timer([&] {
+    QtTickTimer timer(Tick::Interval, [&] {
         ++ticks;
         self->SetInterval(20);
     });
