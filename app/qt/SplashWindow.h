@@ -6,7 +6,8 @@
 
 namespace veltrix {
 
-/// The window that is seen while the program starts.
+/// The window that is seen while the program starts. Without its picture it has its words alone: a
+/// missing picture must not keep the board from starting.
 class SplashWindow : public QWidget {
     Q_OBJECT
 
