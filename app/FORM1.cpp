@@ -5,8 +5,8 @@ namespace veltrix {
 FORM1::FORM1(const Desktop& desktop)
     : UCWaveIn1(desktop.TheWaveIn, desktop.TheSettings),
       desktop_(desktop),
-      undo_(board_, looseWire_, desktop.TheUndoMenu, desktop.Messages),
-      interaction_(board_, cursor_, looseWire_, undo_, desktop.ModeMenu, desktop.Messages),
+      undo_(board_, desktop.TheUndoMenu, desktop.Messages),
+      interaction_(board_, cursor_, undo_, desktop.ModeMenu, desktop.Messages),
       files_(board_, undo_, desktop.Window, desktop.CommonDialog1, desktop.Messages, *this),
       tick_({Pictor1, board_, graph_, desktop.TheClock, desktop.ThePointer, UCWaveIn1,
              desktop.Player, desktop.Timer1, interaction_}),
@@ -74,7 +74,7 @@ void FORM1::FatalError(const std::string& msg) {
 }
 
 void FORM1::ClearObjects() {
-    looseWire_.Line.reset();
+    board_.LooseWire.reset();
     board_.Lines = {};
     end(0);
 }

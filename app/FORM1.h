@@ -122,7 +122,6 @@ private:
     Board board_;
     clsGraph graph_;
     clsCursor cursor_;
-    LooseWire looseWire_;
     UndoList undo_;
     BoardInteraction interaction_;
     FileCommands files_;

@@ -31,7 +31,7 @@ void BoardInteraction::MouseDown(std::int32_t sprite, MouseButton button, std::i
         return;
     }
     if (button == MouseButton::Right) {
-        looseWire_.Line.reset();
+        board_.LooseWire.reset();
         return;
     }
     const SocketName name = board_.Snaps.GetSnapName(x, y);
@@ -61,8 +61,8 @@ void BoardInteraction::MouseMove(std::int32_t sprite, std::int32_t x, std::int32
 }
 
 void BoardInteraction::Escape() {
-    if (looseWire_.Line != nullptr)
-        looseWire_.Line.reset();
+    if (board_.LooseWire != nullptr)
+        board_.LooseWire.reset();
     else
         board_.Knob.Hide();
 }
@@ -80,8 +80,8 @@ PointerShape BoardInteraction::ShapeAt(std::int32_t x, std::int32_t y) const {
 }
 
 void BoardInteraction::MoveLooseEnd() {
-    if (looseWire_.Line != nullptr && looseWire_.Line->Valid1() != 0)
-        looseWire_.Line->SetCoords(2, pointer_.x, pointer_.y);
+    if (board_.LooseWire != nullptr && board_.LooseWire->Valid1() != 0)
+        board_.LooseWire->SetCoords(2, pointer_.x, pointer_.y);
 }
 
 void BoardInteraction::MarkSocket() {
@@ -128,9 +128,9 @@ void BoardInteraction::openKnob(const SocketName& name, std::int32_t x, std::int
 }
 
 void BoardInteraction::draw(const SocketName& name) {
-    if (looseWire_.Line == nullptr)
-        looseWire_.Line = board_.BordLines.CreateLine();
-    clsLine& line = *looseWire_.Line;
+    if (board_.LooseWire == nullptr)
+        board_.LooseWire = board_.BordLines.CreateLine();
+    clsLine& line = *board_.LooseWire;
     if (line.Valid1() == 0) {
         line.SetCoords(1, board_.Snaps.GetXbyName(name), board_.Snaps.GetYbyName(name));
         line.SetColor(clsBordLines::ColorLow);
@@ -141,15 +141,14 @@ void BoardInteraction::draw(const SocketName& name) {
 }
 
 void BoardInteraction::finishWire(const SocketName& name) {
-    clsLine& line = *looseWire_.Line;
+    clsLine& line = *board_.LooseWire;
     if (LineExists(line.naam1, name)) {
         messages_.Show("Deze lijn bestaat al.", "Veltrix 2", Buttons::Ok);
         return;
     }
     line.SetCoords(2, board_.Snaps.GetXbyName(name), board_.Snaps.GetYbyName(name));
     line.naam2 = name;
-    board_.Lines.Add(std::move(looseWire_.Line));
-    looseWire_.Line.reset();
+    board_.Lines.Add(std::move(board_.LooseWire));
     undo_.Undo_AddThisState();
     if (!CorrectInputOutput(board_, messages_))
         undo_.Undo_RemoveLastState();

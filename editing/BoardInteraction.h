@@ -23,14 +23,9 @@ public:
 class BoardInteraction : public SurfaceEvents, public PointerFollower {
 public:
     /// All of it must outlive the interaction; `cursor` is constructed by the caller.
-    BoardInteraction(Board& board, clsCursor& cursor, LooseWire& looseWire, UndoList& undo,
-                     EditModeMenu& menu, MessageBox& messages) noexcept
-        : board_(board),
-          cursor_(cursor),
-          looseWire_(looseWire),
-          undo_(undo),
-          menu_(menu),
-          messages_(messages) {}
+    BoardInteraction(Board& board, clsCursor& cursor, UndoList& undo, EditModeMenu& menu,
+                     MessageBox& messages) noexcept
+        : board_(board), cursor_(cursor), undo_(undo), menu_(menu), messages_(messages) {}
 
     /// Chooses the mode and checks its menu item. Drawing wires clears the marks that removing
     /// left behind.
@@ -70,7 +65,6 @@ private:
 
     Board& board_;
     clsCursor& cursor_;
-    LooseWire& looseWire_;
     UndoList& undo_;
     EditModeMenu& menu_;
     MessageBox& messages_;

@@ -42,7 +42,7 @@ void UndoList::Undo_RemoveLastState() {
 
 void UndoList::Reset() {
     // The loose wire belonged to the board that was replaced.
-    looseWire_.Line.reset();
+    board_.LooseWire.reset();
     states_ = {};
     pointer_ = 0;
     Undo_AddThisState();

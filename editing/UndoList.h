@@ -7,7 +7,6 @@
 #include "instruments/Board.h"
 
 #include <cstdint>
-#include <memory>
 
 namespace veltrix {
 
@@ -19,19 +18,14 @@ public:
     virtual void SetRedoEnabled(bool Enabled) = 0;
 };
 
-/// The wire whose first end is placed and whose second end follows the pointer; none between wires.
-struct LooseWire {
-    std::shared_ptr<clsLine> Line;
-};
-
 /// The undo states: the whole board as it was after each edit, and a pointer to the one that the
 /// board shows. Once the first state exists the pointer is 1 to the number of states; undo is
 /// enabled from 2 on, redo while there are states behind the pointer.
 class UndoList : public History {
 public:
     /// All of it must outlive the list.
-    UndoList(Board& board, LooseWire& looseWire, UndoMenu& menu, MessageBox& messages) noexcept
-        : board_(board), looseWire_(looseWire), menu_(menu), messages_(messages) {}
+    UndoList(Board& board, UndoMenu& menu, MessageBox& messages) noexcept
+        : board_(board), menu_(menu), messages_(messages) {}
 
     /// Drops the states that were undone and records the board as it is now. Throws
     /// std::out_of_range when the board does not fit in a state; the undone ones are gone then.
@@ -57,7 +51,6 @@ private:
     void enableMenu();
 
     Board& board_;
-    LooseWire& looseWire_;
     UndoMenu& menu_;
     MessageBox& messages_;
     Collection<clsKorvelRWRam> states_;

@@ -12,6 +12,7 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 
 namespace veltrix {
 
@@ -40,6 +41,9 @@ struct Board {
     clsSnaps Snaps;
     clsBordLines BordLines;
     Collection<clsLine> Lines;
+    /// The wire that is being drawn: its first end is placed, its second one follows the pointer.
+    /// None between wires.
+    std::shared_ptr<clsLine> LooseWire;
     clsDisplay Display;
     std::array<clsLED, 4> LEDs;
     std::array<clsLED, 2> PushButtons; ///< a pressed push button is a lit lamp

@@ -46,19 +46,18 @@ struct UndoListTest : testing::Test {
 
     TestBoard made;
     Board& board = made.board;
-    LooseWire looseWire;
     FakeMenu menu;
     FakeMessageBox messages;
-    UndoList undo{board, looseWire, menu, messages};
+    UndoList undo{board, menu, messages};
 };
 
-TEST_F(UndoListTest, AfterAResetThereIsOneUndoStateNothingToUndoAndNoWireInHand) {
+TEST_F(UndoListTest, AfterAResetThereIsOneUndoStateNothingToUndoAndNoLooseWire) {
     expectState(1, 1);
     drawWire("Drukknop 1 Uit Geel", "LED 1 Ingang");
-    looseWire.Line = board.BordLines.CreateLine();
+    board.LooseWire = board.BordLines.CreateLine();
     undo.Reset();
     expectState(1, 1);
-    EXPECT_EQ(looseWire.Line, nullptr);
+    EXPECT_EQ(board.LooseWire, nullptr);
 }
 
 TEST_F(UndoListTest, AnEditAfterTwoUndosCutsOffWhatWasUndone) {
