@@ -8,6 +8,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include <fstream>
 
 namespace veltrix::test {
@@ -175,6 +177,34 @@ TEST_F(FORM1Test, ADroppedDocumentIsOpened) {
 TEST_F(FORM1Test, ResizingPutsTheSurfaceInItsPlace) {
     desktop.form.Form_Resize();
     EXPECT_THAT(desktop.window.events, ElementsAre("surface placed"));
+}
+
+/// Tells when it is started.
+struct WatchedTimer : TickTimer {
+    void SetEnabled(bool Enabled) override { whenSet(Enabled); }
+
+    void SetInterval(std::int32_t /*Interval*/) override {}
+
+    std::function<void(bool)> whenSet;
+};
+
+TEST_F(FORM1Test, TheTimerStartsAfterTheCommandLineAndTheFirstUndoState) {
+    WatchedTimer timer;
+    FORM1 form{{desktop.window, desktop.program, desktop.menu, desktop.menu, desktop.messages,
+                desktop.files, timer, desktop.clock, desktop.pointer, desktop.sound.Captures(),
+                desktop.sound.settings, desktop.waveInputs, desktop.programs, desktop.aboutWindows,
+                desktop.helpWindows, desktop.shell, desktop.fileTypes, desktop.player,
+                desktop.log}};
+    int times = 0;
+    timer.whenSet = [&](bool enabled) {
+        ++times;
+        EXPECT_TRUE(enabled);
+        EXPECT_EQ(desktop.messages.shown.size(), 1U) << "the missing document was told of";
+        EXPECT_EQ(form.TheUndoList().Position(), 1);
+    };
+    desktop.program.commandLine = "C:\\x.vtx";
+    form.Form_Load();
+    EXPECT_EQ(times, 1);
 }
 
 } // namespace

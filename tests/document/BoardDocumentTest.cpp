@@ -180,5 +180,18 @@ TEST(BoardDocument, ABoardTooLargeForMemoryFailsAndIsWrittenToAFileNevertheless)
     EXPECT_EQ(test.board.Lines.Count(), 5000);
 }
 
+TEST(BoardDocument, ReadingLeavesTheOpenKnobAsItIs) {
+    TestBoard source;
+    turnEverything(source.board);
+    TestBoard test;
+    test.board.Knob.naam = "Comparator Regelaar";
+    test.board.Knob.Move(10, 10);
+    test.board.Knob.SetValue(44);
+    loadFile(test.board, documentOf(source.board));
+    EXPECT_TRUE(test.board.Knob.Visible());
+    EXPECT_EQ(test.board.Knob.Value(), 44);
+    EXPECT_EQ(test.board.Knobs.Comparator, 22);
+}
+
 } // namespace
 } // namespace veltrix::test

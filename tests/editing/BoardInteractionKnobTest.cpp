@@ -90,5 +90,62 @@ TEST_F(KnobUse, APointerOverTheKnobIsAHand) {
     EXPECT_EQ(desktop.form.Pictor1_ShapeAt(150, 170), PointerShape::Hand);
 }
 
+TEST_F(KnobUse, EachRegulatorOpensTheKnobAtItsOwnPlaceAndLevel) {
+    struct Opening {
+        const char* regulator;
+        Point place;
+        std::int32_t value;
+    };
+
+    const_cast<Board&>(board()).Knobs = {11, 22, 33};
+    const auto colourAt = [this](Point place) {
+        desktop.RunTicks(1);
+        return desktop.form.Pictor1.Frame().Row(place.y)[place.x];
+    };
+    constexpr Opening openings[] = {{"Comparator Regelaar", {100, 150}, 11},
+                                    {"Var. Spanning Regelaar", {236, 90}, 22},
+                                    {"Puls Generator Regelaar", {276, 90}, 33}};
+    for (const Opening& o : openings) {
+        desktop.Click(o.regulator);
+        EXPECT_EQ(board().Knob.Value(), o.value) << o.regulator;
+        EXPECT_EQ(colourAt(o.place), boardColours::Scale) << o.regulator;
+        EXPECT_EQ(colourAt({o.place.x - 1, o.place.y}), boardColours::Board) << o.regulator;
+        EXPECT_EQ(colourAt({o.place.x, o.place.y - 1}), boardColours::Board) << o.regulator;
+    }
+}
+
+TEST_F(KnobUse, TheLooseWireDoesNotFollowThePointerOverTheKnob) {
+    desktop.Click("Drukknop 1 Uit Geel");
+    desktop.Click("Comparator Regelaar");
+    desktop.MoveTo(onScale(50));
+    desktop.RunTicks(1);
+    ASSERT_NE(board().LooseWire, nullptr);
+    EXPECT_EQ(board().LooseWire->X2(), 266) << "where the pointer was last over the board";
+    EXPECT_EQ(board().LooseWire->Y2(), 72);
+}
+
+TEST_F(KnobUse, OverTheKnobNoWireIsMarkedRemovedOrLetGo) {
+    desktop.DrawWire("Drukknop 1 Uit Geel", "LED 1 Ingang");
+    desktop.Click("Comparator Regelaar");
+    desktop.form.mnuVerwijderVerbindingen_Click();
+    desktop.Click(onScale(50));
+    ASSERT_EQ(desktop.Wires(), 1);
+    EXPECT_FALSE(lineAt(1).Highlight());
+    desktop.form.mnuNieuweVerbindingen_Click();
+    desktop.Click("Drukknop 2 Uit Geel");
+    desktop.Click(onScale(50), MouseButton::Right);
+    EXPECT_NE(board().LooseWire, nullptr);
+}
+
+TEST_F(KnobUse, ASocketUnderTheCrossIsOutOfReach) {
+    desktop.Click("Comparator Regelaar");
+    const Point cross{297, 190};
+    ASSERT_EQ(board().Snaps.GetSnapName(cross.x, cross.y), "Invertor Uitgang");
+    desktop.Click(cross);
+    EXPECT_EQ(board().LooseWire, nullptr);
+    desktop.RunTicks(1);
+    EXPECT_FALSE(board().Knob.Visible());
+}
+
 } // namespace
 } // namespace veltrix::test

@@ -82,5 +82,20 @@ TEST_F(Ring, TheRingLeavesWhenThePointerLeavesTheBoard) {
     EXPECT_FALSE(ringAround("LED 1 Ingang"));
 }
 
+TEST_F(Ring, InRemovingModeTheRingAndTheLooseWireStayWhereTheyAre) {
+    desktop.Click("Drukknop 1 Uit Geel");
+    desktop.form.mnuVerwijderVerbindingen_Click();
+    desktop.MoveTo(at(board(), "LED 1 Ingang"));
+    EXPECT_TRUE(ringAround("Drukknop 1 Uit Geel"));
+    ASSERT_NE(board().LooseWire, nullptr);
+    EXPECT_EQ(board().LooseWire->X2(), 98);
+    EXPECT_EQ(board().LooseWire->Y2(), 179);
+}
+
+TEST_F(Ring, InDrawingModeTheRingMarksControlsToo) {
+    desktop.MoveTo(at(board(), "Drukknop 1"));
+    EXPECT_TRUE(ringAround("Drukknop 1"));
+}
+
 } // namespace
 } // namespace veltrix::test

@@ -259,5 +259,54 @@ TEST_F(Removing, DrawingAgainClearsTheMarkButOperatingLeavesIt) {
     EXPECT_FALSE(lineAt(1).Highlight());
 }
 
+TEST_F(Drawing, TheEndsLieOnTheSocketsWhereverTheseWereHit) {
+    const Point first = at(board(), "Drukknop 1 Uit Geel");
+    const Point second = at(board(), "LED 1 Ingang");
+    desktop.Click(Point{first.x + 9, first.y - 9});
+    desktop.Click(Point{second.x - 9, second.y + 9});
+    ASSERT_EQ(desktop.Wires(), 1);
+    EXPECT_EQ(lineAt(1).X1(), first.x);
+    EXPECT_EQ(lineAt(1).Y1(), first.y);
+    EXPECT_EQ(lineAt(1).X2(), second.x);
+    EXPECT_EQ(lineAt(1).Y2(), second.y);
+}
+
+TEST_F(Drawing, AWireThatExistsIsRefusedInItsOwnDirection) {
+    desktop.DrawWire("Drukknop 1 Uit Geel", "LED 1 Ingang");
+    desktop.DrawWire("Drukknop 1 Uit Geel", "LED 1 Ingang");
+    ASSERT_EQ(desktop.messages.shown.size(), 1U);
+    EXPECT_EQ(desktop.messages.shown[0].text, "Deze lijn bestaat al.");
+    EXPECT_EQ(desktop.Wires(), 1);
+    EXPECT_EQ(undo().Count(), 2);
+}
+
+TEST_F(Drawing, TheLooseWireOutlivesTheModeAndTheRightButtonOfTheRemovingOne) {
+    desktop.Click("Drukknop 1 Uit Geel");
+    desktop.form.mnuVerwijderVerbindingen_Click();
+    desktop.Click(Point{200, 200}, MouseButton::Right);
+    EXPECT_NE(board().LooseWire, nullptr);
+    desktop.form.mnuRegelen_Click();
+    EXPECT_NE(board().LooseWire, nullptr);
+    desktop.Click(Point{200, 200}, MouseButton::Right);
+    EXPECT_EQ(board().LooseWire, nullptr);
+}
+
+TEST_F(Removing, OfTwoWiresEquallyNearTheOlderOneIsMarked) {
+    desktop.DrawWire("Drukknop 1 Uit Geel", "LED 1 Ingang");
+    desktop.DrawWire("Drukknop 1 Uit Geel", "LED 2 Ingang");
+    desktop.form.mnuVerwijderVerbindingen_Click();
+    desktop.MoveTo(at(board(), "Drukknop 1 Uit Geel"));
+    EXPECT_TRUE(lineAt(1).Highlight());
+    EXPECT_FALSE(lineAt(2).Highlight());
+}
+
+TEST_F(Operating, TheUndoStateOfASensorHoldsItsNewMode) {
+    desktop.Click("Sensor 1");
+    desktop.form.mnuUndo_Click();
+    EXPECT_EQ(board().Sensors[0].Value(), 0);
+    desktop.form.mnuRedo_Click();
+    EXPECT_EQ(board().Sensors[0].Value(), 1);
+}
+
 } // namespace
 } // namespace veltrix::test

@@ -148,5 +148,27 @@ TEST_F(UndoListTest, ABoardTooLargeForAnUndoStateIsAnErrorAndWhatWasUndoneIsGone
     expectState(0, 0);
 }
 
+TEST_F(UndoListTest, AStateThatIsTakenBackGivesBackTheLevelsOfTheOneBefore) {
+    const std::vector<std::int32_t> before = values();
+    board.Knobs = {10, 20, 30};
+    board.Display.SetValue(4);
+    drawWire("Drukknop 1 Uit Geel", "Drukknop 2 Uit Geel");
+    undo.Undo_RemoveLastState();
+    EXPECT_EQ(values(), before);
+}
+
+TEST_F(UndoListTest, EveryStateStaysHoweverManyThereAre) {
+    constexpr std::int32_t edits = 200;
+    for (std::int32_t edit = 1; edit <= edits; ++edit) {
+        board.Knobs.Comparator = edit;
+        undo.Undo_AddThisState();
+    }
+    expectState(edits + 1, edits + 1);
+    for (std::int32_t edit = edits - 1; edit >= 0; --edit) {
+        undo.mnuUndo_Click();
+        EXPECT_EQ(board.Knobs.Comparator, edit);
+    }
+}
+
 } // namespace
 } // namespace veltrix::test
