@@ -132,5 +132,12 @@ TEST(frmWaveInputs, WithoutSoundSettingsTheButtonIsSilent) {
     EXPECT_EQ(dialog.programs.asked, modControlPanel::SoundSettings());
 }
 
+TEST(frmWaveInputs, TheLoudestSoFarCountsForTheMetersOfTheSameTick) {
+    Dialog dialog({{"Mic"}});
+    dialog.form.Constructor(*dialog.wi);
+    dialog.sound.taps[0].level = 1000;
+    EXPECT_EQ(dialog.widthOf(1), 200);
+}
+
 } // namespace
 } // namespace veltrix::test

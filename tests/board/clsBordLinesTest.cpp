@@ -96,5 +96,10 @@ TEST_F(clsBordLinesTest, AWireFromItIsReadyToUse) {
     EXPECT_EQ(beads(), (Beads{{89, 84, 0, 4}}));
 }
 
+TEST_F(clsBordLinesTest, ABeadHalfWayBetweenTwoPixelsGoesToTheEvenOne) {
+    EXPECT_EQ(drawn(101, 100, 112, 100), (Beads{{90, 84, 0, 1}})); // 90.5
+    EXPECT_EQ(drawn(100, 101, 100, 112), (Beads{{84, 90, 8, 1}}));
+}
+
 } // namespace
 } // namespace veltrix::test

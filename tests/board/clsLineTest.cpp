@@ -212,5 +212,18 @@ TEST_F(clsLineTest, NamesAndTheMarkAreJustKept) {
     EXPECT_TRUE(line->done);
 }
 
+TEST_F(clsLineTest, ADistanceHalfWayBetweenTwoNumbersIsTheEvenOne) {
+    line->SetAll(0, 0, 100, 5, 1);       // its second point is (10, 0.5)
+    EXPECT_EQ(line->Distance(10, 2), 2); // 1.5
+    EXPECT_EQ(line->Distance(10, 3), 2); // 2.5
+}
+
+TEST_F(clsLineTest, TakingAwayAHighlightThatIsNotThereRedrawsNothing) {
+    line->SetAll(100, 100, 110, 100, 3);
+    surface.ClearGroup(line->GroupLID());
+    line->SetHighlight(false);
+    EXPECT_EQ(beadCount(), 0);
+}
+
 } // namespace
 } // namespace veltrix::test

@@ -169,10 +169,13 @@ TEST(clsSnaps, ThereIsRoomForAHundredSnaps) {
     EXPECT_EQ(snaps.GetSnapName(0, 100000), "snap 100");
 }
 
-TEST(clsSnaps, AZoneThatLeavesTheNumberRangeIsAnError) {
-    clsSnaps snaps;
-    snaps.AddSnap(most, 0, 1, "edge");
-    EXPECT_THROW((void)snaps.GetSnapName(most, 0), std::overflow_error);
+TEST(clsSnaps, AZoneThatLeavesTheNumberRangeOnAnySideIsAnError) {
+    for (const Point& centre : {Point{least, 0}, {most, 0}, {0, least}, {0, most}}) {
+        clsSnaps snaps;
+        snaps.AddSnap(centre.x, centre.y, 1, "edge");
+        EXPECT_THROW((void)snaps.GetSnapName(centre.x, centre.y), std::overflow_error)
+            << centre.x << ", " << centre.y;
+    }
 }
 
 TEST(clsSnaps, ARadiusThatIsNoWholeNumberOfTheRangeIsAnErrorAndAddsNothing) {

@@ -1,6 +1,7 @@
 #include "editing/clsCursor.h"
 
 #include "tests/support/SurfaceFixture.h"
+#include "tests/support/TempFolder.h"
 
 namespace veltrix::test {
 namespace {
@@ -41,6 +42,23 @@ TEST_F(clsCursorTest, ARingShownAtTheSamePointInEveryTickCostsNoPixel) {
     cursor.ShowPoint(50, 40);
     surface.Refresh();
     EXPECT_TRUE(surface.Changed().empty());
+}
+
+TEST(clsCursor, TheRingIsSeenOnlyWhereItsMaskIsWhite) {
+    const TempFolder folder;
+    writePicture(folder.Path(), "\\images2\\Cursor.bmp", plain(32, 32, boardColours::Ring));
+    Picture mask = plain(32, 32, white);
+    mask.Row(0)[0] = nothing;
+    writePicture(folder.Path(), "\\images2\\CursorMask.bmp", mask);
+    KeptLog log;
+    PictorATL surface;
+    ASSERT_TRUE(surface.Start(folder.Path(), 100, 100, 1, log));
+    clsCursor cursor;
+    cursor.Constructor(surface);
+    cursor.ShowPoint(50, 40);
+    surface.Refresh();
+    EXPECT_EQ(surface.Frame().Row(24)[34], nothing);
+    EXPECT_EQ(surface.Frame().Row(24)[35], boardColours::Ring);
 }
 
 } // namespace

@@ -1,9 +1,12 @@
 #include "instruments/Board.h"
 
 #include "tests/support/Pictures.h"
+#include "tests/support/TempFolder.h"
 #include "tests/support/TestBoard.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace veltrix::test {
 namespace {
@@ -103,6 +106,35 @@ TEST_F(BoardTest, WithoutPicturesEverythingWorksUnseen) {
         ASSERT_EQ(seen, nothing);
     EXPECT_EQ(blind.board.Knob.Value(), 30);
     EXPECT_TRUE(blind.board.LEDs[0].Value());
+}
+
+TEST_F(BoardTest, MasksCutOutTheBeadsTheLampsAndTheKnobsPointer) {
+    const TempFolder folder;
+    writeBoardPictures(folder.Path());
+    const auto hideUpperRow = [&](const char* name, std::int32_t width, std::int32_t height) {
+        Picture mask = plain(width, height, white);
+        std::fill_n(mask.Row(0), width, nothing);
+        writePicture(folder.Path(), name, mask);
+    };
+    hideUpperRow("\\images1\\LineMask.bmp", 1024, 32);
+    hideUpperRow("\\images2\\RedLightMask.bmp", 32, 32);
+    hideUpperRow("\\images2\\VPointerMask.bmp", 15, 18);
+    TestBoard masked(folder.Path());
+    wire(masked.board, "EN-poort Uit", "Zoemer");
+    masked.board.LEDs[0].SetValue(true);
+    masked.board.Knob.Move(100, 300);
+    masked.board.Knob.SetValue(25);
+    masked.surface.Refresh();
+    const Picture& frame = masked.surface.Frame();
+    // The first bead begins at (187, 114); the second one lies to the right of this column.
+    EXPECT_EQ(frame.Row(114)[187], colours::Board);
+    EXPECT_EQ(frame.Row(115)[187], colours::line(1));
+    EXPECT_EQ(frame.Row(114 + 31)[187], colours::line(1));
+    EXPECT_EQ(frame.Row(114 + 32)[187], colours::Board);
+    EXPECT_EQ(frame.Row(27)[373], colours::Board);
+    EXPECT_EQ(frame.Row(28)[373], colours::RedLight);
+    EXPECT_EQ(frame.Row(305)[199], colours::Scale);
+    EXPECT_EQ(frame.Row(306)[199], colours::VPointer);
 }
 
 } // namespace

@@ -212,5 +212,14 @@ TEST_F(UCWaveInTest, AnUnknownInputIsAnError) {
     EXPECT_THROW((void)wi->GetWaveVolume(-32769), std::overflow_error);
 }
 
+TEST_F(UCWaveInTest, OnlyTheFirstCaptureIsAskedWhichInputsCanBeUsed) {
+    FakeSoundInputs other({{"wrong", false}, {"wrong", false}});
+    withInputs(2);
+    sound.taps[1].computer = &other.computer;
+    EXPECT_TRUE(wi->GetWaveInValid(2));
+    wi->Timer1_Timer();
+    EXPECT_THAT(starts(), ElementsAre(1, 1, 0, 0, 0));
+}
+
 } // namespace
 } // namespace veltrix::test

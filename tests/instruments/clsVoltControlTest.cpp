@@ -277,5 +277,13 @@ TEST_F(clsVoltControlAtTwice, TheMarksAreTwoPixelsWide) {
     EXPECT_EQ(pixel(2 * 10, 2 * 28 - 1), colours::Scale);
 }
 
+TEST_F(clsVoltControlTest, EitherButtonDragsAndAPressBesideTheScaleMovesADragOn) {
+    knob.Move(place.x, place.y);
+    surface.MouseDown(MouseButton::Right, place.x + 6 + 4 * 31, inScale.y);
+    EXPECT_EQ(knob.Value(), 31);
+    down(place.x + 6 + 4 * 12, place.y - 100);
+    EXPECT_EQ(knob.Value(), 12);
+}
+
 } // namespace
 } // namespace veltrix::test

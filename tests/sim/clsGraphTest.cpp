@@ -232,5 +232,12 @@ TEST_F(clsGraphTest, ModulesInARowAllComeToTheirLevelInOneRun) {
     EXPECT_EQ(levelOf("LED 1 Ingang"), 0);
 }
 
+TEST_F(clsGraphTest, ANameThatIsAddedOverAndOverFillsTheTableToo) {
+    for (int i = 1; i <= 100; ++i)
+        graph.AddPunt("Zoemer", i);
+    EXPECT_THROW(graph.AddPunt("Zoemer", 101), std::out_of_range);
+    EXPECT_EQ(levelOf("Zoemer"), 1);
+}
+
 } // namespace
 } // namespace veltrix::test

@@ -8,14 +8,18 @@
 #include "tests/support/FakeSound.h"
 #include "tests/support/MemoryDesktop.h"
 
+#include <QImage>
 #include <QLabel>
 #include <QMainWindow>
+#include <QPalette>
+#include <QPixmap>
 #include <QPushButton>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <set>
 #include <string>
 
 namespace veltrix::test {
@@ -138,6 +142,19 @@ TEST_F(QtWaveInputsDialogTest, ANameTooLongIsShownWholeInItsTip) {
         EXPECT_EQ(name->toolTip(), name->text());
         EXPECT_EQ(dialog.findChild<QLabel*>("Label3_2")->toolTip(), "");
         EXPECT_LT(dialog.width(), 700);
+        press(dialog, "btnOK");
+    });
+}
+
+TEST_F(QtWaveInputsDialogTest, HasGreyNamesAndAPaintedBackground) {
+    show([](QtWaveInputsDialog& dialog) {
+        EXPECT_EQ(dialog.findChild<QLabel*>("Label3_1")->foregroundRole(),
+                  QPalette::PlaceholderText);
+        const QImage picture = dialog.grab().toImage();
+        std::set<QRgb> colours; // of the lowest row, where no control stands
+        for (int x = 0; x < picture.width(); ++x)
+            colours.insert(picture.pixel(x, picture.height() - 1));
+        EXPECT_GT(colours.size(), 1U);
         press(dialog, "btnOK");
     });
 }
