@@ -38,7 +38,7 @@ std::string DutchReason(const std::exception& error) {
     if (dynamic_cast<const std::overflow_error*>(&error) != nullptr)
         return "Een waarde op het bord is te groot om mee te rekenen.";
     if (dynamic_cast<const std::out_of_range*>(&error) != nullptr)
-        return "Op het bord staat een getal dat niet kan.";
+        return "Op het bord staat een getal of een aantal draden dat niet kan.";
     return "Er ging iets mis. Probeer het nog eens."; // the log tells what
 }
 

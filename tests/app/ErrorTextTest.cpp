@@ -36,7 +36,8 @@ TEST(ErrorText, TellsApartWhatWentWrongOnTheBoard) {
     EXPECT_EQ(DutchReason(std::bad_alloc()), "De computer heeft te weinig geheugen vrij.");
     EXPECT_EQ(DutchReason(std::overflow_error("x")),
               "Een waarde op het bord is te groot om mee te rekenen.");
-    EXPECT_EQ(DutchReason(std::out_of_range("x")), "Op het bord staat een getal dat niet kan.");
+    EXPECT_EQ(DutchReason(std::out_of_range("x")),
+              "Op het bord staat een getal of een aantal draden dat niet kan.");
     EXPECT_EQ(DutchReason(std::runtime_error("x")), "Er ging iets mis. Probeer het nog eens.");
 }
 

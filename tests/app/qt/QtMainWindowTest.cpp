@@ -105,7 +105,7 @@ TEST_F(QtMainWindowTest, ATickThatFailsIsToldOnceWhileTheBoardRunsOn) {
     EXPECT_FALSE(told.isModal());
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_EQ(told.windowTitle(), "Veltrix versie 2.0");
-    EXPECT_EQ(told.text(), "Op het bord staat een getal dat niet kan.");
+    EXPECT_EQ(told.text(), "Op het bord staat een getal of een aantal draden dat niet kan.");
 
     RunTicks(5);
     EXPECT_EQ(notices(), QList{&told}) << "told again";
