@@ -138,6 +138,17 @@ TEST_F(FORM1Test, ClosingAnUnchangedBoardAsksNothing) {
     EXPECT_FALSE(desktop.timer.enabled);
 }
 
+TEST_F(FORM1Test, TheEndTakesAllWiresOffTheBoard) {
+    desktop.Start();
+    desktop.DrawWire("Drukknop 1 Uit Geel", "LED 1 Ingang");
+    desktop.Click("Drukknop 2 Uit Geel");
+    ASSERT_NE(desktop.form.TheBoard().LooseWire, nullptr);
+    desktop.messages.answers = {Answer::No};
+    desktop.form.mnuSluiten_Click();
+    EXPECT_EQ(desktop.form.TheBoard().Lines.Count(), 0);
+    EXPECT_EQ(desktop.form.TheBoard().LooseWire, nullptr);
+}
+
 TEST_F(FORM1Test, AfterItsEndNoEventReachesTheProgram) {
     desktop.Start();
     desktop.form.mnuSluiten_Click();
