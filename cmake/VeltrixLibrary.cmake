@@ -12,8 +12,9 @@ endif()
 # Include paths are written from the repository root.
 target_include_directories(veltrix_options INTERFACE ${CMAKE_CURRENT_LIST_DIR}/..)
 if(VELTRIX_SANITIZE)
+    # Tests are not optimised: compiling them takes more time than running them.
     target_compile_options(veltrix_options INTERFACE
-        -O1 -g1 -fno-omit-frame-pointer -fsanitize=address,undefined -fno-sanitize-recover=all)
+        $<IF:$<BOOL:$<TARGET_PROPERTY:VELTRIX_TEST>>,-O0,-O1> -g1 -fno-omit-frame-pointer -fsanitize=address,undefined -fno-sanitize-recover=all)
     target_link_options(veltrix_options INTERFACE -fsanitize=address,undefined)
 endif()
 if(VELTRIX_FUZZ)

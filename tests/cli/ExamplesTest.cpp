@@ -3,6 +3,7 @@
 #include "cli/CsvFields.h"
 #include "tests/cli/Cli.h"
 #include "tests/cli/Process.h"
+#include "tests/support/Folders.h"
 #include "tools/examples/Example.h"
 
 #include <gmock/gmock.h>
@@ -19,7 +20,7 @@ using testing::HasSubstr;
 
 using Fields = std::vector<std::string>;
 
-const std::filesystem::path folder = std::filesystem::path(VELTRIX_SOURCE_FOLDER) / "examples";
+const std::filesystem::path folder = test::SourceFolder() / "examples";
 
 std::string fileOf(const std::string& name) {
     return Utf8FromPath(folder / PathFromUtf8(name));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/cli/Cli.h"
+#include "tests/support/Folders.h"
 
 #include <cstdlib>
 #include <fcntl.h>
@@ -51,7 +52,7 @@ inline Outcome runProcess(const std::string& program, const std::vector<std::str
 /// Runs the built veltrix-cli.
 inline Outcome runVeltrixCli(const std::vector<std::string>& arguments,
                              const std::string& outputTo = {}) {
-    return runProcess(VELTRIX_APPLICATION_FOLDER "/veltrix-cli", arguments, outputTo);
+    return runProcess(ApplicationFolder() / "veltrix-cli", arguments, outputTo);
 }
 
 } // namespace veltrix::test

@@ -2,6 +2,7 @@
 
 #include "board/AppPath.h"
 #include "board/Picture.h"
+#include "tests/support/Folders.h"
 
 #include <array>
 #include <string>
@@ -12,7 +13,7 @@ namespace veltrix::test {
 inline Picture rendered(std::string name, int scale) {
     if (scale > 1)
         name.insert(name.rfind('.'), "@" + std::to_string(scale) + "x");
-    return ReadPicture(AppPath(VELTRIX_APPLICATION_FOLDER, name));
+    return ReadPicture(AppPath(ApplicationFolder(), name));
 }
 
 /// Red, green and blue, 0 to 255.

@@ -1,5 +1,6 @@
 #include "sim/Tick.h"
 #include "tests/sound/SoundTest.h"
+#include "tests/support/Folders.h"
 #include "tests/support/TestSimulation.h"
 
 #include <QDebug>
@@ -88,7 +89,7 @@ TEST_F(BuzzerTest, RingsOnBeyondTheLengthOfItsFile) {
     Recording recording;
     waitForRecording(recording);
     const std::size_t file =
-        (std::filesystem::file_size(VELTRIX_APPLICATION_FOLDER "/Ringin.wav") - 44) / 2;
+        (std::filesystem::file_size(test::ApplicationFolder() / "Ringin.wav") - 44) / 2;
     (void)delayOf(ringing, recording, true);
     const std::size_t from = recording.Length();
     const std::size_t all = 5 * file / 2;
@@ -138,7 +139,7 @@ TEST_F(BuzzerTest, MissingWaveFilesAreToldOnceEach) {
 
 TEST_F(BuzzerTest, WithoutTheSilentFileItFallsSilentToo) {
     const test::TempFolder folder;
-    std::filesystem::copy(VELTRIX_APPLICATION_FOLDER "/Ringin.wav", folder.Path());
+    std::filesystem::copy(test::ApplicationFolder() / "Ringin.wav", folder.Path());
     RealSound real(folder.Path());
     RingingBoard ringing(real.sound->Player());
     Recording recording;

@@ -1,4 +1,5 @@
 #include "tests/sound/SoundTest.h"
+#include "tests/support/Folders.h"
 
 #include <cstdlib>
 #include <optional>
@@ -180,7 +181,7 @@ TEST_F(SoundSensorTest, AMachineWithoutAServerIsSilent) {
 TEST_F(SoundSensorTest, AServerThatHangsKeepsNobodyFromLeaving) {
     server->Stop();
     test::KeptLog log;
-    const auto sound = MakeSound(VELTRIX_APPLICATION_FOLDER, log);
+    const auto sound = MakeSound(test::ApplicationFolder(), log);
     EXPECT_FALSE(sound->Close()) << "a part of it is still with the server";
     server->Continue();
     EXPECT_TRUE(waitUntil([&] { return sound->Close(); }));

@@ -5,6 +5,7 @@
 #include "tests/sound/Loudspeaker.h"
 #include "tests/sound/SoundServer.h"
 #include "tests/support/FakeSound.h"
+#include "tests/support/Folders.h"
 #include "tests/support/Logs.h"
 
 #include <QTimer>
@@ -23,7 +24,7 @@ namespace veltrix::test {
 /// The sound of the program, put together as main does: the captures, the sensor with its timer,
 /// the player.
 struct RealSound {
-    explicit RealSound(const std::filesystem::path& folder = VELTRIX_APPLICATION_FOLDER)
+    explicit RealSound(const std::filesystem::path& folder = ApplicationFolder())
         : sound(MakeSound(folder, log)) {
         QObject::connect(&timer1, &QTimer::timeout, &timer1, [this] {
             ++ticks;

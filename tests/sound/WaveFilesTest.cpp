@@ -1,3 +1,5 @@
+#include "tests/support/Folders.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -15,7 +17,7 @@ namespace {
 
 /// The samples of a 16-bit mono wave file of the application folder.
 std::vector<std::int16_t> samplesOf(const std::string& name) {
-    std::ifstream in(std::filesystem::path(VELTRIX_APPLICATION_FOLDER) / name, std::ios::binary);
+    std::ifstream in(test::ApplicationFolder() / name, std::ios::binary);
     const std::string bytes(std::istreambuf_iterator<char>(in), {});
     const auto number = [&](std::size_t at, std::size_t length) {
         std::uint32_t value = 0;

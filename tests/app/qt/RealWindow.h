@@ -7,6 +7,7 @@
 #include "app/qt/help/QtHelpWindow.h"
 #include "tests/app/qt/BoxAnswers.h"
 #include "tests/app/qt/WaitUntil.h"
+#include "tests/support/Folders.h"
 #include "tests/support/MemoryDesktop.h"
 #include "tests/support/TempFolder.h"
 
@@ -40,7 +41,7 @@ public:
 /// make one run differ from the next is memory: the clock, which the test turns, and the sound.
 /// The test is the user: it clicks snaps by name, chooses menu items and answers boxes.
 struct RealWindow {
-    RealWindow() { program.folder = VELTRIX_APPLICATION_FOLDER; }
+    RealWindow() { program.folder = ApplicationFolder(); }
 
     BoxAnswers answers;
     FakeProgram program;
@@ -53,7 +54,7 @@ struct RealWindow {
     FakeFileTypes fileTypes;
     FakeSoundPlayer player;
     KeptLog log;
-    ScaledWindow window{VELTRIX_APPLICATION_FOLDER};
+    ScaledWindow window{ApplicationFolder()};
     QtMessageBox messages{window};
     QtFileDialog files{window};
     QtFaultNotice notice{window};

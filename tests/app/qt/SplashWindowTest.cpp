@@ -1,6 +1,7 @@
 #include "app/qt/SplashWindow.h"
 #include "tests/app/qt/Centred.h"
 #include "tests/app/qt/PaintWatch.h"
+#include "tests/support/Folders.h"
 #include "tests/support/Pictures.h"
 #include "tests/support/TempFolder.h"
 
@@ -64,7 +65,7 @@ void expectReadable(SplashWindow& splash) {
 }
 
 TEST(SplashWindow, ItsWordsCanBeReadOnThePicture) {
-    SplashWindow splash(VELTRIX_APPLICATION_FOLDER);
+    SplashWindow splash(ApplicationFolder());
     expectReadable(splash);
 }
 

@@ -1,4 +1,5 @@
 #include "app/qt/sound/LoopSource.h"
+#include "tests/support/Folders.h"
 #include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
@@ -107,18 +108,18 @@ TEST_F(ReadLoopTest, AFileThatIsNotThereIsEmpty) {
 }
 
 TEST_F(ReadLoopTest, AWaveFileIsItsSamples) {
-    const Loop bell = ReadLoop(VELTRIX_APPLICATION_FOLDER "/Ringin.wav");
+    const Loop bell = ReadLoop(test::ApplicationFolder() / "Ringin.wav");
     EXPECT_EQ(bell.format.sampleRate(), 44100);
     EXPECT_EQ(bell.format.channelCount(), 1);
     EXPECT_EQ(bell.format.sampleFormat(), QAudioFormat::Int16);
     EXPECT_EQ(static_cast<std::uintmax_t>(bell.samples.size()),
-              std::filesystem::file_size(VELTRIX_APPLICATION_FOLDER "/Ringin.wav") - 44);
+              std::filesystem::file_size(test::ApplicationFolder() / "Ringin.wav") - 44);
     EXPECT_FALSE(bell.Silent());
-    EXPECT_TRUE(ReadLoop(VELTRIX_APPLICATION_FOLDER "/SILENCE.wav").Silent());
+    EXPECT_TRUE(ReadLoop(test::ApplicationFolder() / "SILENCE.wav").Silent());
 }
 
 TEST_F(ReadLoopTest, DamagedFilesAreEmptyOrShort) {
-    std::ifstream in(VELTRIX_APPLICATION_FOLDER "/Ringin.wav", std::ios::binary);
+    std::ifstream in(test::ApplicationFolder() / "Ringin.wav", std::ios::binary);
     std::string whole(2000, '\0');
     in.read(whole.data(), static_cast<std::streamsize>(whole.size()));
     for (std::size_t length = 0; length < 60; ++length)
